@@ -1,0 +1,13 @@
+# Compiler options that hold for every target of the program, the tests and the benchmarks.
+add_library(vorlain_options INTERFACE)
+target_compile_options(vorlain_options INTERFACE
+    -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wsign-conversion -Wnon-virtual-dtor -Woverloaded-virtual -Werror)
+target_compile_definitions(vorlain_options INTERFACE
+    QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_URL_CAST_FROM_STRING QT_NO_KEYWORDS
+    QT_NO_FOREACH QT_USE_QSTRINGBUILDER)
+
+if(VORLAIN_ASAN)
+    # Global, so that every object of one binary agrees on the instrumentation.
+    add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
+    add_link_options(-fsanitize=address,undefined)
+endif()

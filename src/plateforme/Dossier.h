@@ -1,0 +1,34 @@
+#pragma once
+
+#include "plateforme/Lignes_Texte.h"
+
+#include <QString>
+#include <QStringView>
+
+/// The files of the program: Windows-1252 text with CR LF. A name is taken in Repertoire_Appli, unless it is a full
+/// path. Every operation throws Erreur_Execution, naming the file, when the disk refuses it; the file is then what it
+/// was before.
+class Dossier {
+public:
+    virtual ~Dossier() = default;
+
+    /// Repertoire_Appli, without a closing separator.
+    [[nodiscard]] virtual QString Repertoire_Appli() const = 0;
+    /// True if the file can be opened for reading.
+    [[nodiscard]] virtual bool S_Ouvre(const QString &nom) const = 0;
+    /// The whole text of a file.
+    [[nodiscard]] virtual QString Lit(const QString &nom) const = 0;
+    [[nodiscard]] Lignes_Texte Lit_Lignes(const QString &nom) const { return Lignes_Texte(Lit(nom)); }
+
+    /// Puts `texte` in the place of a file, or makes it: written whole to `temporaire`, synced, renamed over `nom`.
+    /// After a crash at any instant the file is the old one or the new one, whole.
+    virtual void Remplace(const QString &nom, QStringView texte, const QString &temporaire) = 0;
+    /// Appends one line with its CR LF and syncs it; a last line that lost its line end gets it first.
+    /// A file that is absent is made.
+    virtual void Ajoute(const QString &nom, QStringView ligne) = 0;
+    /// Makes an empty file where none stands; a file that exists is left alone.
+    virtual void Cree_Si_Absent(const QString &nom) = 0;
+    virtual void Supprime(const QString &nom) = 0;
+    /// Copies bytes as they are; the copy is written beside its target and renamed over it.
+    virtual void Copie(const QString &source, const QString &cible) = 0;
+};

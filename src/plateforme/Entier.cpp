@@ -1,0 +1,21 @@
+#include "plateforme/Entier.h"
+
+#include "plateforme/Erreur_Execution.h"
+
+using namespace Qt::StringLiterals;
+
+int Entier(QStringView texte)
+{
+    bool valide = false;
+    const int valeur = texte.trimmed().toInt(&valide);
+    if (!valide)
+        throw Erreur_Execution(Cause::Type, u"« %1 » n'est pas un nombre entier"_s.arg(texte));
+    return valeur;
+}
+
+std::size_t Indice(int valeur, std::size_t taille)
+{
+    if (valeur < 0 || static_cast<std::size_t>(valeur) >= taille)
+        throw Erreur_Execution(Cause::Indice, u"l'indice %1 est en dehors de sa table"_s.arg(valeur));
+    return static_cast<std::size_t>(valeur);
+}

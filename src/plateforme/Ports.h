@@ -1,0 +1,16 @@
+#pragma once
+
+class Boites;
+class Dossier;
+class Ecrans;
+class Horloge;
+class Reglages;
+
+/// What the program needs of the platform, handed by reference to whoever works with it.
+struct Ports {
+    Dossier &dossier;
+    Reglages &reglages;
+    Horloge &horloge;
+    Boites &boites;
+    Ecrans &ecrans;
+};

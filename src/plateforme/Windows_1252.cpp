@@ -1,0 +1,89 @@
+#include "plateforme/Windows_1252.h"
+
+#include "plateforme/Erreur_Execution.h"
+
+#include <algorithm>
+#include <array>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+// Bytes 80 to 9F; all other bytes are the Unicode character of the same number.
+constexpr std::array<char16_t, 32> haut = {
+    0x20AC, 0x0081, 0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021, 0x02C6, 0x2030, 0x0160,
+    0x2039, 0x0152, 0x008D, 0x017D, 0x008F, 0x0090, 0x2018, 0x2019, 0x201C, 0x201D, 0x2022,
+    0x2013, 0x2014, 0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0x009D, 0x017E, 0x0178,
+};
+
+constexpr bool Est_Direct(char16_t unite)
+{
+    return unite < 0x80 || (unite >= 0xA0 && unite <= 0xFF);
+}
+
+constexpr char16_t Majuscule(char16_t unite)
+{
+    if ((unite >= u'a' && unite <= u'z') || (unite >= 0xE0 && unite <= 0xFE && unite != 0xF7))
+        return static_cast<char16_t>(unite - 0x20);
+    switch (unite) {
+    case 0x0161: // s, z with caron and oe stand one below their capitals' pair
+    case 0x017E:
+    case 0x0153:
+        return static_cast<char16_t>(unite - 1);
+    case 0xFF:
+        return 0x0178;
+    default:
+        return unite;
+    }
+}
+
+} // namespace
+
+QString Decode_1252(QByteArrayView octets)
+{
+    QString texte = QString::fromLatin1(octets);
+    const auto *source = reinterpret_cast<const unsigned char *>(octets.data());
+    QChar *cible = nullptr;
+    for (qsizetype i = 0; i < octets.size(); ++i) {
+        const unsigned char octet = source[i];
+        if (octet < 0x80 || octet > 0x9F)
+            continue;
+        if (!cible)
+            cible = texte.data();
+        cible[i] = QChar(haut[static_cast<std::size_t>(octet - 0x80)]);
+    }
+    return texte;
+}
+
+QByteArray Encode_1252(QStringView texte)
+{
+    QByteArray octets(texte.size(), Qt::Uninitialized);
+    char *cible = octets.data();
+    for (const QChar caractere : texte) {
+        const char16_t unite = caractere.unicode();
+        if (Est_Direct(unite)) {
+            *cible++ = static_cast<char>(unite);
+            continue;
+        }
+        const auto *place = std::find(haut.begin(), haut.end(), unite);
+        if (place == haut.end())
+            throw Erreur_Execution(Cause::Caractere,
+                                   u"le caractère « %1 » ne peut pas être enregistré dans un fichier"_s.arg(caractere));
+        *cible++ = static_cast<char>(0x80 + (place - haut.begin()));
+    }
+    return octets;
+}
+
+bool Est_Dans_1252(QChar caractere)
+{
+    return Est_Direct(caractere.unicode()) ||
+           std::find(haut.begin(), haut.end(), caractere.unicode()) != haut.end();
+}
+
+QString Majuscules_1252(QStringView texte)
+{
+    QString capitales = texte.toString();
+    for (QChar &caractere : capitales)
+        caractere = QChar(Majuscule(caractere.unicode()));
+    return capitales;
+}

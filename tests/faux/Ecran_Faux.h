@@ -1,0 +1,29 @@
+#pragma once
+
+#include "log/Ecran_Principal.h"
+#include "log/Ligne_Affichage.h"
+
+#include <vector>
+
+/// The main screen as the log operations see it, with a record of what they asked.
+class Ecran_Faux : public Ecran_Principal {
+public:
+    void Remplit_Liste(Lignes_Texte lignes) override { liste = std::move(lignes); }
+    [[nodiscard]] const Lignes_Texte &Liste_QSO() const override { return liste; }
+    void Selectionne_Derniere() override
+    {
+        appels.push_back(QStringLiteral("Selectionne_Derniere"));
+        selection = liste.empty() ? QString() : Ligne_Affichage(liste.size(), liste[liste.size() - 1]);
+    }
+    void Active_Ind_A() override { appels.push_back(QStringLiteral("Active_Ind_A")); }
+    [[nodiscard]] QString Dip_A() const override { return dip_a; }
+    [[nodiscard]] QString I_Station() const override { return i_station; }
+    void Efface() override { appels.push_back(QStringLiteral("Efface")); }
+    void Efface_Saisie() override { appels.push_back(QStringLiteral("Efface_Saisie")); }
+
+    Lignes_Texte liste;
+    QString selection;
+    QString dip_a;
+    QString i_station;
+    std::vector<QString> appels;
+};

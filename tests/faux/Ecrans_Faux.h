@@ -1,0 +1,23 @@
+#pragma once
+
+#include "plateforme/Ecrans.h"
+
+#include <functional>
+#include <vector>
+
+/// Records the screens asked for; a modal one runs `pendant_modal` in its place.
+class Ecrans_Faux : public Ecrans {
+public:
+    void Montre(const QString &nom) override { montres.push_back(nom); }
+    void Montre_Modal(const QString &nom) override
+    {
+        modaux.push_back(nom);
+        if (pendant_modal)
+            pendant_modal(nom);
+    }
+    [[nodiscard]] bool Connait(const QString &) const override { return true; }
+
+    std::vector<QString> montres;
+    std::vector<QString> modaux;
+    std::function<void(const QString &)> pendant_modal;
+};
