@@ -1,0 +1,27 @@
+#pragma once
+
+#include "plateforme/Lignes_Texte.h"
+
+#include <QString>
+
+/// What the log operations ask of the main screen.
+class Ecran_Principal {
+public:
+    virtual ~Ecran_Principal() = default;
+
+    /// Liste_QSO shows one Ligne_Affichage a line of the log.
+    virtual void Remplit_Liste(Lignes_Texte lignes) = 0;
+    /// The log lines that Liste_QSO shows.
+    [[nodiscard]] virtual const Lignes_Texte &Liste_QSO() const = 0;
+    /// Selects the last entry and runs the list's click handling for it; an empty list selects nothing.
+    virtual void Selectionne_Derniere() = 0;
+    virtual void Active_Ind_A() = 0;
+
+    /// The text of Dip_A, which need not be the current award.
+    [[nodiscard]] virtual QString Dip_A() const = 0;
+    /// The text of I_Station: the call sign as shown.
+    [[nodiscard]] virtual QString I_Station() const = 0;
+    /// Clear the entry back to rest, with the focus on Dip_A or on Bande_A.
+    virtual void Efface() = 0;
+    virtual void Efface_Saisie() = 0;
+};

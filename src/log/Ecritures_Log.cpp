@@ -1,0 +1,90 @@
+#include "log/Ecritures_Log.h"
+
+#include "log/Charge_Log.h"
+#include "log/Chemin_Log.h"
+#include "log/Ecran_Principal.h"
+#include "log/Etat_Commun.h"
+#include "log/Moment.h"
+#include "log/Poste.h"
+#include "plateforme/Dossier.h"
+
+#include <optional>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// The lines with a CR LF behind each, `nouvelle` before the one of rank `place` (behind the last for size()).
+/// nullopt leaves `place` out and puts nothing.
+QString Assemble(const Lignes_Texte &lignes, std::size_t place, std::optional<QStringView> nouvelle, bool sans_place)
+{
+    QString texte;
+    texte.reserve(static_cast<qsizetype>(lignes.size() + 1) * 113);
+    const auto pose = [&](QStringView ligne) { texte.append(ligne).append(fin_de_ligne); };
+    for (std::size_t rang = 0; rang <= lignes.size(); ++rang) {
+        if (rang == place && nouvelle)
+            pose(*nouvelle);
+        if (rang < lignes.size() && !(rang == place && sans_place))
+            pose(lignes[rang]);
+    }
+    return texte;
+}
+
+std::size_t Rang(const Lignes_Texte &lignes, QStringView ligne)
+{
+    return static_cast<std::size_t>(std::find(lignes.begin(), lignes.end(), ligne) - lignes.begin());
+}
+
+void Recharge(Poste &poste, QStringView code)
+{
+    Charge_Log(poste, code);
+    poste.ecran.Selectionne_Derniere();
+}
+
+} // namespace
+
+QString Texte_Remplace(const Lignes_Texte &lignes, QStringView nouvelle, QStringView ancienne)
+{
+    return Assemble(lignes, Rang(lignes, ancienne), nouvelle, true);
+}
+
+QString Texte_Supprime(const Lignes_Texte &lignes, QStringView ligne)
+{
+    return Assemble(lignes, Rang(lignes, ligne), std::nullopt, true);
+}
+
+QString Texte_Insere(const Lignes_Texte &lignes, QStringView nouvelle)
+{
+    const std::optional<QString> moment = Moment(nouvelle);
+    std::size_t place = 0;
+    while (place < lignes.size() && !(Moment(lignes[place]) && Moment(lignes[place]) >= moment))
+        ++place;
+    return Assemble(lignes, place, nouvelle, false);
+}
+
+void Ajoute_Ligne(Poste &poste, QStringView ligne, QStringView code)
+{
+    poste.dossier.Ajoute(Chemin_Log(poste.etat, code), ligne);
+    Recharge(poste, code);
+}
+
+void Remplace_Ligne(Poste &poste, QStringView nouvelle, QStringView ancienne)
+{
+    const QString nom = Chemin_Log(poste.etat, poste.etat.diplome);
+    poste.dossier.Remplace(nom, Texte_Remplace(poste.dossier.Lit_Lignes(nom), nouvelle, ancienne), u"Temporaire.txt"_s);
+    Recharge(poste, poste.etat.diplome);
+}
+
+void Supprime_Ligne(Poste &poste, QStringView ligne, QStringView code)
+{
+    const QString nom = Chemin_Log(poste.etat, code);
+    poste.dossier.Remplace(nom, Texte_Supprime(poste.dossier.Lit_Lignes(nom), ligne), u"Temporaire.txt"_s);
+    Recharge(poste, code);
+}
+
+void Insere_Ligne(Poste &poste, QStringView ligne)
+{
+    const QString nom = Chemin_Log(poste.etat, poste.etat.diplome);
+    poste.dossier.Remplace(nom, Texte_Insere(poste.dossier.Lit_Lignes(nom), ligne), u"Temporaire6.txt"_s);
+    Recharge(poste, poste.etat.diplome);
+}

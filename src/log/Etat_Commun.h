@@ -1,0 +1,43 @@
+#pragma once
+
+#include <QString>
+
+/// The mark of a first installation, and the year of a challenge that was not chosen yet.
+inline constexpr QStringView indicatif_absent = u"FXXXX";
+inline constexpr QStringView annee_absente = u"2000";
+
+/// What the screens share in memory; everything else is in the files.
+struct Etat_Commun {
+    /// Current call sign in its stored form, `_` for `/`.
+    QString indicatif = indicatif_absent.toString();
+    /// Current award: the code last opened with Enter in Dip_A, not the text that Dip_A shows.
+    QString diplome;
+    QString annee_ch_dfcf = annee_absente.toString();
+    QString annee_ch_dmf = annee_absente.toString();
+    /// "DFCF" or "DMF": the challenge whose year Select_Annee asks for.
+    QString genre_challenge;
+    QString version;
+    QString historique;
+
+    /// The Ligne_Affichage of the last entry clicked in Liste_QSO; empty until the first click.
+    QString ligne_selectionnee;
+    /// A stored QSO is on display or under edit: a commit replaces instead of adding.
+    bool qso_affiche = false;
+    /// A double click opened the QSO: single clicks no longer fill the fields.
+    bool qso_en_edition = false;
+    /// Deferred entry: date and time are typed, repeats pass, a commit inserts at its place in time.
+    bool saisie_differee = false;
+    /// The first-name list must be updated at commit. Only a look-up by Ind_A clears it.
+    bool prenom_nouveau = false;
+
+    // Texts shared by the award screens. A choice screen or a tier button sets them, sheets and lists read them, and
+    // nothing resets them.
+    QString bande_liste;
+    QString mode_liste;
+    QString code_categorie;
+    QString libelle_categorie;
+    QString categorie_liste;
+    QString niveau_liste;
+
+    [[nodiscard]] bool QSO_Touche() const { return qso_affiche || qso_en_edition; }
+};
