@@ -1,0 +1,17 @@
+#include "ecrans/Ecran.h"
+
+#include <QScreen>
+
+Ecran::Ecran(const QString &nom, const QString &titre)
+{
+    setObjectName(nom);
+    setWindowTitle(titre);
+    setAttribute(Qt::WA_DeleteOnClose);
+}
+
+void Centre(QWidget &fenetre)
+{
+    fenetre.adjustSize();
+    const QRect bureau = fenetre.screen()->availableGeometry();
+    fenetre.move(bureau.center() - fenetre.rect().center());
+}

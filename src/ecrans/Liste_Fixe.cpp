@@ -1,0 +1,104 @@
+#include "ecrans/Liste_Fixe.h"
+
+#include <QAbstractListModel>
+#include <QFontDatabase>
+#include <QKeyEvent>
+
+#include <memory>
+#include <utility>
+
+class Liste_Fixe::Modele : public QAbstractListModel {
+public:
+    using QAbstractListModel::QAbstractListModel;
+
+    void Remplit(std::size_t nombre, Texte_De_Rang texte)
+    {
+        beginResetModel();
+        nombre_ = static_cast<int>(nombre);
+        texte_ = std::move(texte);
+        endResetModel();
+    }
+
+    [[nodiscard]] int rowCount(const QModelIndex &parent) const override { return parent.isValid() ? 0 : nombre_; }
+
+    [[nodiscard]] QVariant data(const QModelIndex &index, int role) const override
+    {
+        if (role != Qt::DisplayRole || !index.isValid())
+            return {};
+        return texte_(static_cast<std::size_t>(index.row()));
+    }
+
+private:
+    int nombre_ = 0;
+    Texte_De_Rang texte_;
+};
+
+Liste_Fixe::Liste_Fixe(QWidget *parent) : QListView(parent), modele_(new Modele(this))
+{
+    setModel(modele_);
+    setFont(Police());
+    setUniformItemSizes(true);
+    setEditTriggers(NoEditTriggers);
+    setSelectionMode(SingleSelection);
+    connect(this, &QListView::clicked, this, [this](const QModelIndex &index) { Q_EMIT Cliquee(index.row()); });
+    connect(this, &QListView::doubleClicked, this,
+            [this](const QModelIndex &index) { Q_EMIT Double_Cliquee(index.row()); });
+}
+
+Liste_Fixe::~Liste_Fixe() = default;
+
+void Liste_Fixe::Remplit(std::size_t nombre, Texte_De_Rang texte)
+{
+    modele_->Remplit(nombre, std::move(texte));
+}
+
+void Liste_Fixe::Remplit(std::vector<QString> entrees)
+{
+    const auto partagees = std::make_shared<const std::vector<QString>>(std::move(entrees));
+    Remplit(partagees->size(), [partagees](std::size_t rang) { return (*partagees)[rang]; });
+}
+
+int Liste_Fixe::Nombre() const
+{
+    return modele_->rowCount({});
+}
+
+QString Liste_Fixe::Entree(int rang) const
+{
+    return modele_->index(rang).data().toString();
+}
+
+int Liste_Fixe::Rang_Courant() const
+{
+    return currentIndex().row();
+}
+
+void Liste_Fixe::Selectionne(int rang)
+{
+    if (rang < 0 || rang >= Nombre())
+        return;
+    setCurrentIndex(modele_->index(rang));
+    Q_EMIT Cliquee(rang);
+}
+
+QFont Liste_Fixe::Police()
+{
+    QFont police = QFontDatabase::systemFont(QFontDatabase::FixedFont);
+    police.setStyleHint(QFont::Monospace);
+    police.setFixedPitch(true);
+    return police;
+}
+
+void Liste_Fixe::keyPressEvent(QKeyEvent *touche)
+{
+    const bool entree = touche->key() == Qt::Key_Return || touche->key() == Qt::Key_Enter;
+    if (entree && Rang_Courant() >= 0) {
+        if (!touche->isAutoRepeat())
+            Q_EMIT Double_Cliquee(Rang_Courant());
+        return;
+    }
+    const int avant = Rang_Courant();
+    QListView::keyPressEvent(touche);
+    if (Rang_Courant() != avant && Rang_Courant() >= 0)
+        Q_EMIT Cliquee(Rang_Courant());
+}
