@@ -1,0 +1,25 @@
+#include "outils/Sauve_Logs.h"
+
+#include "log/Catalogue.h"
+#include "log/Chemin_Log.h"
+#include "log/Cles.h"
+#include "log/Etat_Commun.h"
+#include "log/Poste.h"
+#include "log/Reglages_Station.h"
+#include "plateforme/Dossier.h"
+#include "plateforme/Tolere.h"
+
+#include <QDir>
+
+void Sauve_Logs(Poste &poste)
+{
+    Tolere([&] { Lit_Annees_Challenge(poste); });
+    const QString repertoire = Lit_Station(poste, cles::chemin_sauvegarde, cles::chemin_sauvegarde_absent);
+    // A folder of another system ("C:\..." here) is no full path: its copies would land among the logs.
+    if (!QDir::isAbsolutePath(repertoire))
+        return;
+    for (const QStringView code : codes_diplome) {
+        const QString cible = repertoire + u'/' + Chemin_Log_Sans_Annee(poste.etat.indicatif, code);
+        Tolere([&] { poste.dossier.Copie(Chemin_Log(poste.etat, code), cible); });
+    }
+}
