@@ -84,6 +84,11 @@ QString Majuscules_1252(QStringView texte)
 {
     QString capitales = texte.toString();
     for (QChar &caractere : capitales)
-        caractere = QChar(Majuscule(caractere.unicode()));
+        caractere = Majuscule_1252(caractere);
     return capitales;
+}
+
+QChar Majuscule_1252(QChar caractere)
+{
+    return QChar(Majuscule(caractere.unicode()));
 }
