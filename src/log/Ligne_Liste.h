@@ -6,9 +6,9 @@
 #include <cstddef>
 #include <span>
 
-namespace detail_liste {
-void Decoupe(QStringView ligne, std::span<QStringView> champs);
-}
+/// Fills `champs` with the first fields of one line of a semicolon list, as Champs_Liste does, where their number is
+/// known at run time only.
+void Decoupe_Liste(QStringView ligne, std::span<QStringView> champs);
 
 /// The first N fields of one line of a semicolon list, each closed by its own ";", as they stand (no quoting, no
 /// trimming). Throws Erreur_Execution (Cause::Format_Liste) for a line with fewer than N separators.
@@ -16,7 +16,7 @@ template <std::size_t N>
 std::array<QStringView, N> Champs_Liste(QStringView ligne)
 {
     std::array<QStringView, N> champs;
-    detail_liste::Decoupe(ligne, champs);
+    Decoupe_Liste(ligne, champs);
     return champs;
 }
 
