@@ -29,6 +29,8 @@ struct Etat_Commun {
     bool saisie_differee = false;
     /// The first-name list must be updated at commit. Only a look-up by Ind_A clears it.
     bool prenom_nouveau = false;
+    /// "/" and ":" come by themselves in Date_A and Heure_A.
+    bool separateur_auto = false;
 
     // Texts shared by the award screens. A choice screen or a tier button sets them, sheets and lists read them, and
     // nothing resets them.
