@@ -59,7 +59,9 @@ bool Agit_Sur_Un_Champ(const QKeyEvent &touche)
 }
 
 Chaine_Entree::Chaine_Entree(QWidget *controle, Reactions reactions)
-    : QObject(controle), controle_(controle), reactions_(std::move(reactions))
+    : QObject(controle),
+      controle_(controle),
+      reactions_(std::move(reactions))
 {
     controle->installEventFilter(this);
 }

@@ -39,6 +39,6 @@ private:
     bool transmet_ = false;
 };
 
-/// True for a key that acts on a field: one that types, erases or moves. Tab, Escape, function keys, modifiers alone and
-/// menu keys (Alt, Ctrl) are not.
+/// True for a key that acts on a field: one that types, erases or moves. Tab, Escape, function keys, modifiers alone
+/// and menu keys (Alt, Ctrl) are not.
 bool Agit_Sur_Un_Champ(const QKeyEvent &touche);

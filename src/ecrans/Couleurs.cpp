@@ -6,11 +6,10 @@
 void Colore(QWidget *controle, const QColor &fond)
 {
     QPalette palette = controle->palette();
-    for (const QPalette::ColorGroup groupe : {QPalette::Active, QPalette::Inactive, QPalette::Disabled}) {
-        palette.setColor(groupe, QPalette::Base, fond);
-        palette.setColor(groupe, QPalette::Button, fond);
-        palette.setColor(groupe, QPalette::Text, Qt::black);
-        palette.setColor(groupe, QPalette::ButtonText, Qt::black);
-    }
+    // Without a group a role is set in all of them. Check boxes are painted with the window's roles.
+    for (const QPalette::ColorRole role : {QPalette::Base, QPalette::Button, QPalette::Window})
+        palette.setColor(role, fond);
+    for (const QPalette::ColorRole role : {QPalette::Text, QPalette::ButtonText, QPalette::WindowText})
+        palette.setColor(role, Qt::black);
     controle->setPalette(palette);
 }

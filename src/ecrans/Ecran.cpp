@@ -11,7 +11,7 @@ Ecran::Ecran(const QString &nom, const QString &titre)
 
 void Centre(QWidget &fenetre)
 {
-    fenetre.adjustSize();
     const QRect bureau = fenetre.screen()->availableGeometry();
+    fenetre.resize(fenetre.sizeHint().boundedTo(bureau.size()));
     fenetre.move(bureau.center() - fenetre.rect().center());
 }

@@ -3,6 +3,9 @@
 #include <QAbstractListModel>
 #include <QFontDatabase>
 #include <QKeyEvent>
+#include <QLabel>
+#include <QScrollBar>
+#include <QStyle>
 
 #include <memory>
 #include <utility>
@@ -81,11 +84,39 @@ void Liste_Fixe::Selectionne(int rang)
     Q_EMIT Cliquee(rang);
 }
 
+void Liste_Fixe::Pose_Entete(QLabel *entete)
+{
+    entete_ = entete;
+    entete_->setParent(this);
+    entete_->setFont(font());
+    entete_->setTextFormat(Qt::PlainText);
+    connect(horizontalScrollBar(), &QScrollBar::valueChanged, this, &Liste_Fixe::Place_Entete);
+    setViewportMargins(0, entete_->sizeHint().height(), 0, 0);
+    Place_Entete();
+}
+
+void Liste_Fixe::Reserve(int colonnes, int lignes)
+{
+    lignes_reservees_ = lignes;
+    const int largeur = fontMetrics().horizontalAdvance(QString(colonnes, u'M'));
+    setMinimumWidth(largeur + 2 * Marge_Texte() + verticalScrollBar()->sizeHint().width() + 2 * frameWidth());
+    updateGeometry();
+}
+
+QSize Liste_Fixe::sizeHint() const
+{
+    const int entete = entete_ ? entete_->sizeHint().height() : 0;
+    const int hauteur = lignes_reservees_ * fontMetrics().height() + entete + 2 * frameWidth();
+    return {qMax(QListView::sizeHint().width(), minimumWidth()), hauteur};
+}
+
 QFont Liste_Fixe::Police()
 {
     QFont police = QFontDatabase::systemFont(QFontDatabase::FixedFont);
     police.setStyleHint(QFont::Monospace);
     police.setFixedPitch(true);
+    // The widest list, with its 126 columns and a scroll bar, fits 1366 pixels at 96 dots an inch.
+    police.setPointSize(11);
     return police;
 }
 
@@ -101,4 +132,27 @@ void Liste_Fixe::keyPressEvent(QKeyEvent *touche)
     QListView::keyPressEvent(touche);
     if (Rang_Courant() != avant && Rang_Courant() >= 0)
         Q_EMIT Cliquee(Rang_Courant());
+}
+
+void Liste_Fixe::resizeEvent(QResizeEvent *evenement)
+{
+    QListView::resizeEvent(evenement);
+    Place_Entete();
+    if (currentIndex().isValid())
+        scrollTo(currentIndex());
+}
+
+int Liste_Fixe::Marge_Texte() const
+{
+    // Where a style begins the text of an item.
+    return style()->pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, this) + 1;
+}
+
+void Liste_Fixe::Place_Entete()
+{
+    if (!entete_)
+        return;
+    const int hauteur = entete_->sizeHint().height();
+    const int gauche = viewport()->x() + Marge_Texte() - horizontalScrollBar()->value();
+    entete_->setGeometry(gauche, frameWidth(), qMax(entete_->sizeHint().width(), width()), hauteur);
 }

@@ -5,6 +5,8 @@
 #include <functional>
 #include <vector>
 
+class QLabel;
+
 /// A list of fixed-column texts, one a row, in a fixed-pitch font. A text is asked for when its row is shown.
 class Liste_Fixe : public QListView {
     Q_OBJECT
@@ -25,6 +27,12 @@ public:
     /// Selects an entry and tells it by Cliquee(), as a click does, also when it was selected already.
     void Selectionne(int rang);
 
+    /// Puts a header above the first row, aligned with the columns; it moves with them when the list is scrolled.
+    void Pose_Entete(QLabel *entete);
+    /// Asks for room for that many columns and rows; the columns are always shown whole.
+    void Reserve(int colonnes, int lignes);
+    [[nodiscard]] QSize sizeHint() const override;
+
     /// The fixed-pitch font of all lists and their headers.
     static QFont Police();
 
@@ -36,8 +44,14 @@ Q_SIGNALS:
 
 protected:
     void keyPressEvent(QKeyEvent *touche) override;
+    void resizeEvent(QResizeEvent *evenement) override;
 
 private:
     class Modele;
+    [[nodiscard]] int Marge_Texte() const;
+    void Place_Entete();
+
+    QLabel *entete_ = nullptr;
+    int lignes_reservees_ = 10;
     Modele *modele_;
 };
