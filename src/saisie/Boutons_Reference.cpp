@@ -1,0 +1,71 @@
+#include "saisie/Boutons_Reference.h"
+
+#include "log/Catalogue.h"
+#include "log/Etat_Commun.h"
+#include "log/Poste.h"
+#include "plateforme/Boites.h"
+#include "plateforme/Commandes.h"
+#include "plateforme/Ecrans.h"
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+struct Reponse {
+    QStringView code;
+    QStringView ecran;    ///< the screen that opens, or
+    QStringView commande; ///< the command that runs
+};
+
+// clang-format off
+constexpr Reponse reponses[] = {
+    {u"DOHF", u"Detail_Activite", u""},
+    {u"DCF", u"Liste_References", u""},
+    {u"DFCF", u"Detail_DFCF", u""},
+    {u"DYLF", u"Scores_DYLF", u""},
+    {u"DPF", u"Detail_DPF", u""},
+    {u"TDC", u"Detail_TDC", u""},
+    {u"FFF", u"Detail_FFF", u""},
+    {u"DPLF", u"Liste_References", u""},
+    {u"PC", u"Detail_PC", u""},
+    {u"DDFM", u"", u"Collecte_DDFM"},
+    {u"Ch_DFCF", u"", u"Fusion_Activite_DFCF"},
+    {u"Ch_DMF", u"", u"Fusion_Activite_DMF"},
+    {u"DIFM", u"", u"Liste_Des_Iles"},
+};
+// clang-format on
+
+void Dit_Inactif(Poste &poste)
+{
+    poste.boites.Message(u"Bouton inactif pour ce diplome"_s);
+}
+
+} // namespace
+
+void Presse_Detail(Poste &poste, Commandes &commandes)
+{
+    const QString &code = poste.etat.diplome;
+    // Ch_DMF is not spared the question as Ch_DFCF is.
+    if (code != u"Ch_DFCF" && poste.etat.ligne_selectionnee.isEmpty()) {
+        poste.boites.Message(u"Selectionnez un QSO"_s);
+        return;
+    }
+    const auto *reponse =
+        std::find_if(std::begin(reponses), std::end(reponses), [&](const Reponse &r) { return r.code == code; });
+    if (reponse == std::end(reponses))
+        Dit_Inactif(poste);
+    else if (!reponse->ecran.isEmpty())
+        poste.ecrans.Montre(reponse->ecran.toString());
+    else
+        commandes.Execute(reponse->commande.toString());
+}
+
+void Presse_Detail_1(Poste &poste, Commandes &commandes)
+{
+    if (Est_Challenge(poste.etat.diplome))
+        commandes.Execute(u"Fusion_Trelune"_s);
+    else
+        Dit_Inactif(poste);
+}

@@ -1,0 +1,67 @@
+#include "saisie/Changement_Station.h"
+
+#include "log/Catalogue.h"
+#include "log/Charge_Log.h"
+#include "log/Chemin_Log.h"
+#include "log/Cles.h"
+#include "log/Etat_Commun.h"
+#include "log/Poste.h"
+#include "log/Reglages_Station.h"
+#include "plateforme/Dossier.h"
+#include "plateforme/Tolere.h"
+#include "saisie/Choix_Retenu.h"
+#include "saisie/Vue_Saisie.h"
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+bool Est_Permis(QChar caractere)
+{
+    return (caractere >= u'0' && caractere <= u'9') || (caractere >= u'A' && caractere <= u'Z') || caractere == u'_';
+}
+
+void Installe_Nouvelle_Station(Poste &poste)
+{
+    Tolere([&] { Cree_Logs(poste, poste.etat.indicatif); });
+    Tolere([&] { Ecrit_Station(poste, cles::bande_utilisee, u"0"_s); });
+    Tolere([&] { Ecrit_Station(poste, cles::mode_utilise, u"0"_s); });
+}
+
+} // namespace
+
+Refus Refus_Indicatif_Station(QStringView indicatif)
+{
+    if (indicatif.isEmpty())
+        return u"Vous devez entrer un indicatif"_s;
+    if (indicatif.size() > 12)
+        return u"12 caracteres maximum pour l'indicatif"_s;
+    if (Est_Refus_De_Caractere(indicatif))
+        return u"L'indicatif ne doit comporter que des lettres des chiffres ou le signe '_' "_s;
+    return std::nullopt;
+}
+
+bool Est_Refus_De_Caractere(QStringView indicatif)
+{
+    return indicatif.size() <= 12 && !std::all_of(indicatif.begin(), indicatif.end(), Est_Permis);
+}
+
+void Cree_Logs(Poste &poste, QStringView indicatif)
+{
+    for (const QStringView code : codes_diplome)
+        Tolere([&] { poste.dossier.Remplace(Chemin_Log_Sans_Annee(indicatif, code), u"", u"Temporaire.txt"_s); });
+}
+
+void Change_Station(Poste &poste, Vue_Saisie &vue, const QString &indicatif)
+{
+    poste.etat.indicatif = indicatif;
+    if (!poste.dossier.S_Ouvre(Chemin_Log_Sans_Annee(indicatif, u"DFCF")))
+        Installe_Nouvelle_Station(poste);
+    Tolere([&] { Ecrit_General(poste, cles::indicatif_station, indicatif); });
+    vue.Ecrit(Controle::I_Station, QString(indicatif).replace(u'_', u'/'));
+    Reprend_Bande_Et_Mode(poste, vue);
+    Lit_Annees_Challenge(poste);
+    Tolere([&] { Charge_Log(poste, poste.etat.diplome); });
+}

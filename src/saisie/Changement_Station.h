@@ -1,0 +1,20 @@
+#pragma once
+
+#include "saisie/Refus.h"
+
+struct Poste;
+class Vue_Saisie;
+
+/// The check of a station's call sign, in capitals and with `_` for `/`: 1 to 12 digits, capital letters and `_`.
+Refus Refus_Indicatif_Station(QStringView indicatif);
+
+/// The two refusals that concern the characters empty the field.
+bool Est_Refus_De_Caractere(QStringView indicatif);
+
+/// Makes an empty log for each of the 21 codes, the challenges under a name without year; a log that was there is
+/// emptied.
+void Cree_Logs(Poste &poste, QStringView indicatif);
+
+/// Switches to a station whose call sign passed its check; one without a DFCF log is new and gets its logs and
+/// settings. Every failure of a file is passed over: a log that is missing leaves the list empty.
+void Change_Station(Poste &poste, Vue_Saisie &vue, const QString &indicatif);

@@ -1,0 +1,152 @@
+#include "saisie/Ouverture_Diplome.h"
+
+#include "log/Catalogue.h"
+#include "log/Charge_Log.h"
+#include "log/Chemin_Log.h"
+#include "log/Cles.h"
+#include "log/Etat_Commun.h"
+#include "log/Poste.h"
+#include "log/Reglages_Station.h"
+#include "plateforme/Boites.h"
+#include "plateforme/Dossier.h"
+#include "plateforme/Ecrans.h"
+#include "plateforme/Reglages.h"
+#include "saisie/Choix_Retenu.h"
+#include "saisie/Refus.h"
+#include "saisie/Vue_Saisie.h"
+
+#include <utility>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// What tells the two challenges apart when they are opened.
+struct Challenge {
+    QStringView code;
+    QStringView genre;
+    QStringView cle_annee;
+    QString Etat_Commun::*annee;
+    QStringView rappel;
+};
+
+// clang-format off
+constexpr Challenge challenges[] = {
+    {u"Ch_DFCF", u"DFCF", cles::annee_challenge_dfcf, &Etat_Commun::annee_ch_dfcf,
+     u" Lettres qui doivent suivent la référence :\n\n"
+     u" - A - Activation contactée et validée\n"
+     u" - R - Réactivation contactée et validée\n"
+     u" - C - Activeur de Chateau validé\n"
+     u" - B - Activeur de Chateau réactivé et validé\n"},
+    {u"Ch_DMF", u"DMF", cles::annee_challenge_dmf, &Etat_Commun::annee_ch_dmf,
+     u" Lettres qui doivent suivent la référence :\n\n"
+     u" - A - Activation contactée et validée\n"
+     u" - R - Réactivation contactée et validée\n"
+     u" - C - Activeur de Moulin validé\n"
+     u" - B - Activeur de Moulin réactivé et validé\n"},
+};
+// clang-format on
+
+/// The first revision of the FFF list with references of four digits.
+constexpr int premiere_revision_fff = 17;
+
+void Previent_Liste_FFF(Poste &poste)
+{
+    const QString revision = Lit_Station(poste, cles::revision_liste_wff, cles::revision_liste_absente);
+    // "Rev 017 du ...": a text without a number there counts as 0.
+    if (revision.mid(4, 3).toInt() < premiere_revision_fff)
+        poste.boites.Message(u"Attention vous devez mettre à jour la liste FFF\n"
+                             u"Allez dans 'Outils' et 'Mise à jour des references FFF'"_s);
+}
+
+void Ecrit_Habillage(Vue_Saisie &vue, const Habillage &habillage)
+{
+    vue.Ecrit(Controle::Frame3, habillage.frame3.toString());
+    vue.Ecrit(Controle::Detail, habillage.detail.toString());
+    if (habillage.detail_1)
+        vue.Ecrit(Controle::Detail_1, habillage.detail_1->toString());
+    if (habillage.nom_l)
+        vue.Ecrit(Controle::Nom_L, habillage.nom_l->toString());
+    vue.Ecrit(Controle::Label1, habillage.label1.toString());
+}
+
+/// False if the operator closed the choice of a year without making one, and there is no log to show.
+bool Choisit_Annee_Challenge(Poste &poste, const Challenge &challenge)
+{
+    QString &annee = poste.etat.*challenge.annee;
+    annee = Lit_Station(poste, challenge.cle_annee, annee_absente);
+    if (annee != annee_absente)
+        return true;
+    poste.etat.genre_challenge = challenge.genre.toString();
+    poste.ecrans.Montre_Modal(u"Select_Annee"_s);
+    return annee != annee_absente || poste.dossier.S_Ouvre(Chemin_Log(poste.etat, challenge.code));
+}
+
+bool Habille_Challenge(Poste &poste, Vue_Saisie &vue, const Challenge &challenge, const Habillage &habillage)
+{
+    if (!Choisit_Annee_Challenge(poste, challenge))
+        return false;
+    Ecrit_Habillage(vue, habillage);
+    vue.Ecrit(Controle::Frame3, habillage.frame3 + poste.etat.*challenge.annee);
+    if (poste.reglages.Lit_Trelune(u"Setup"_s, cles::chemin_repertoire.toString(), u"Absent"_s) != u"Absent")
+        vue.Ecrit(Controle::Detail_1, u"Mise a jour via Trelune"_s);
+    poste.boites.Message(challenge.rappel.toString());
+    return true;
+}
+
+bool Habille(Poste &poste, Vue_Saisie &vue, const Habillage &habillage)
+{
+    for (const Challenge &challenge : challenges)
+        if (challenge.code == habillage.code)
+            return Habille_Challenge(poste, vue, challenge, habillage);
+    if (habillage.code == u"FFF")
+        Previent_Liste_FFF(poste);
+    Ecrit_Habillage(vue, habillage);
+    return true;
+}
+
+void Repart_De_Zero(Poste &poste, Vue_Saisie &vue)
+{
+    Retient_Choix(poste, vue, Controle::Dip_A, cles::diplome_utilise);
+    vue.Selectionne_Derniere();
+    vue.Efface_Saisie();
+}
+
+} // namespace
+
+bool Accepte_Touche_Dip(Poste &poste)
+{
+    if (poste.etat.indicatif != indicatif_absent)
+        return true;
+    poste.boites.Message(Message_Premiere_Installation());
+    return false;
+}
+
+void Ouvre_Diplome(Poste &poste, Vue_Saisie &vue)
+{
+    const QString code = vue.Texte(Controle::Dip_A);
+    const Habillage *habillage = Habillage_De(code);
+    if (!habillage) {
+        poste.boites.Message(u"Selectionnez un diplome"_s);
+        return;
+    }
+    const QString precedent = std::exchange(poste.etat.diplome, code);
+    if (!Habille(poste, vue, *habillage)) {
+        poste.etat.diplome = precedent;
+        return;
+    }
+    vue.Efface_Saisie();
+    Charge_Log(poste, code);
+    poste.etat.diplome = code;
+    vue.Ecrit(Controle::Type_Ref, Type_Ref(code).toString());
+    vue.Active(Controle::Bande_A, true);
+    vue.Donne_Focus(Controle::Bande_A);
+    Repart_De_Zero(poste, vue);
+}
+
+void Touche_Dip(Poste &poste, Vue_Saisie &vue)
+{
+    Repart_De_Zero(poste, vue);
+    // The focus goes back to where the operator is typing: the next letter of the code would land in the band.
+    vue.Donne_Focus(Controle::Dip_A);
+}

@@ -1,0 +1,14 @@
+#pragma once
+
+struct Poste;
+class Vue_Saisie;
+
+/// A key of Dip_A before the operator has a call sign: tells so and gives false; the key is dropped.
+bool Accepte_Touche_Dip(Poste &poste);
+
+/// Enter in Dip_A: the code becomes the current award, the screen is dressed for it, its log is shown and the focus
+/// goes to Bande_A. A text that is none of the 21 codes opens nothing. Throws Erreur_Execution if the log is absent.
+void Ouvre_Diplome(Poste &poste, Vue_Saisie &vue);
+
+/// Any other key of Dip_A: the code is remembered and the entry starts afresh; the current award stays.
+void Touche_Dip(Poste &poste, Vue_Saisie &vue);

@@ -1,0 +1,17 @@
+#include "saisie/Passage.h"
+
+#include "log/Poste.h"
+#include "plateforme/Boites.h"
+
+bool Passe(Poste &poste, const Refus &refus)
+{
+    if (refus)
+        poste.boites.Message(*refus);
+    return !refus;
+}
+
+void Avance(Vue_Saisie &vue, Controle suivant)
+{
+    vue.Active(suivant, true);
+    vue.Donne_Focus(suivant);
+}

@@ -1,0 +1,12 @@
+#pragma once
+
+#include "saisie/Refus.h"
+#include "saisie/Vue_Saisie.h"
+
+struct Poste;
+
+/// Shows the message of a refusal; true if there was none.
+bool Passe(Poste &poste, const Refus &refus);
+
+/// Enables the next control of the chain and gives it the focus.
+void Avance(Vue_Saisie &vue, Controle suivant);

@@ -1,0 +1,110 @@
+#include "saisie/QSO_Courant.h"
+
+#include "log/Catalogue.h"
+#include "log/Ecritures_Log.h"
+#include "log/Etat_Commun.h"
+#include "log/Ligne_Affichage.h"
+#include "log/Poste.h"
+#include "plateforme/Boites.h"
+#include "saisie/Vue_Saisie.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+namespace aff = colonnes_affichage;
+
+// The call sign is read from two columns too far left: one of 11 or 12 characters shows and edits without its end.
+constexpr Champ ind_affiche{8, 12};
+constexpr Champ rste_affiche{90, 4};
+// A click shows a date with the first two digits of the hour behind it; an edit takes the date alone.
+constexpr Champ date_affichee{54, 12};
+
+void Remplit_Champs(Vue_Saisie &vue, QStringView ligne, Champ date)
+{
+    const auto rogne = [&](Controle champ, Champ colonnes) { vue.Ecrit(champ, Lit_Rogne(ligne, colonnes).toString()); };
+    rogne(Controle::Ind_A, ind_affiche);
+    rogne(Controle::Dpt_A, aff::Dpt);
+    rogne(Controle::Prenom_A, aff::Prenom);
+    rogne(Controle::Ref_A, aff::Ref);
+    vue.Ecrit(Controle::Date_A, Lit(ligne, date).toString());
+    vue.Ecrit(Controle::Heure_A, Lit(ligne, aff::Heure).toString());
+    rogne(Controle::Mode_A, aff::Mode);
+    rogne(Controle::Bande_A, aff::Bande);
+    rogne(Controle::RSTR_A, aff::RSTR);
+    rogne(Controle::RSTE_A, rste_affiche);
+    rogne(Controle::Nom_A, aff::Nom);
+    vue.Coche_QSL(Lit(ligne, aff::QSL) == qsl_tenue);
+}
+
+void Ouvre_Champs(Vue_Saisie &vue)
+{
+    for (const Controle champ :
+         {Controle::Bande_A, Controle::Ind_A, Controle::Prenom_A, Controle::Ref_A, Controle::Dpt_A, Controle::Date_A,
+          Controle::Heure_A, Controle::Mode_A, Controle::RSTR_A, Controle::RSTE_A, Controle::Nom_A, Controle::QSL_A})
+        vue.Active(champ, true);
+    vue.Active(Controle::Valide_A, true);
+}
+
+} // namespace
+
+void Clic_Liste(Poste &poste, Vue_Saisie &vue, const QString &ligne_affichage)
+{
+    poste.etat.ligne_selectionnee = ligne_affichage;
+    poste.etat.qso_affiche = true;
+    vue.Ecrit(Controle::Mode_Aff, u"Affichage QSO"_s);
+    // During an edit the target of the commit has changed while the fields keep their text: that is wanted.
+    if (poste.etat.qso_en_edition)
+        return;
+    vue.Active(Controle::Ind_A, false);
+    Remplit_Champs(vue, ligne_affichage, date_affichee);
+    vue.Active(Controle::Annule_Saisie, true);
+}
+
+void Double_Clic_Liste(Poste &poste, Vue_Saisie &vue, const QString &ligne_affichage)
+{
+    poste.etat.ligne_selectionnee = ligne_affichage;
+    if (poste.etat.qso_en_edition)
+        return;
+    poste.etat.qso_en_edition = true;
+    if (poste.etat.ligne_selectionnee.isEmpty()) {
+        poste.boites.Message(u"Cliquez sur une ligne pour l'editer"_s);
+        return;
+    }
+    poste.etat.qso_affiche = true;
+    Ouvre_Champs(vue);
+    Remplit_Champs(vue, ligne_affichage, aff::Date);
+    vue.Ecrit(Controle::Mode_Aff, u"Modification QSO"_s);
+    vue.Donne_Focus(Controle::Ind_A);
+}
+
+void Commence_Insertion(Poste &poste, Vue_Saisie &vue)
+{
+    if (!vue.Est_Actif(Controle::Bande_A)) {
+        poste.boites.Message(u"Selectionnez un diplome"_s);
+        vue.Donne_Focus(Controle::Dip_A);
+        return;
+    }
+    // Only the option menu clears this again: the QSOs after this one go in as insertions too.
+    poste.etat.saisie_differee = true;
+    vue.Ecrit(Controle::Mode_Aff, u"Insertion QSO"_s);
+    poste.etat.qso_affiche = false;
+    vue.Donne_Focus(Controle::Bande_A);
+}
+
+void Supprime_QSO(Poste &poste, Vue_Saisie &vue)
+{
+    if (poste.etat.ligne_selectionnee.isEmpty()) {
+        poste.boites.Message(u"Cliquez sur une ligne pour l'effacer"_s);
+        return;
+    }
+    const QString code = vue.Dip_A();
+    if (!Est_Code_Diplome(code)) {
+        poste.boites.Message(u"Selectionnez un diplome"_s);
+        return;
+    }
+    const QString ligne = Ligne_Log_Affichee(poste.etat.ligne_selectionnee);
+    if (poste.boites.Question(u"Voulez vous Supprimer ce QSO ?"_s))
+        Supprime_Ligne(poste, ligne, code);
+    vue.Active(Controle::Annule_Saisie, false);
+}

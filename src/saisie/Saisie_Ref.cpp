@@ -1,0 +1,109 @@
+#include "saisie/Saisie_Ref.h"
+
+#include "listes/Recherches_Liste.h"
+#include "log/Etat_Commun.h"
+#include "log/Poste.h"
+#include "log/Recherches_Log.h"
+#include "plateforme/Boites.h"
+#include "plateforme/Windows_1252.h"
+#include "saisie/Passage.h"
+#include "saisie/Regle_Ref.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+Refus Refus_Longueur_Generale(QStringView ref)
+{
+    if (ref.size() > 10)
+        return u"10 caracteres maxi pour la reference (pas de tiret)"_s;
+    return std::nullopt;
+}
+
+/// In deferred entry repeats pass, so that a log can be completed out of order.
+Refus Refus_Repetition(const Poste &poste, const QString &ref)
+{
+    if (poste.etat.QSO_Touche() || poste.etat.saisie_differee)
+        return std::nullopt;
+    const Trouvaille trouvaille = Cherche_Ref(poste, poste.etat.diplome, ref);
+    if (!trouvaille.oui)
+        return std::nullopt;
+    return u"La référence "_s + ref + u" a été contactée le " + trouvaille.date;
+}
+
+/// What the award's list tells; an award without a list tells nothing.
+Reference_Trouvee Recherche(Poste &poste, QStringView ref)
+{
+    const QString &code = poste.etat.diplome;
+    if (code == u"DOHF")
+        return Cherche_Ouvrage(poste.dossier, ref);
+    if (code == u"TDC")
+        return Cherche_TDC(poste.dossier, poste.boites, ref);
+    if (code == u"DCF")
+        return Cherche_DCF(poste.dossier, ref);
+    if (code == u"FFF")
+        return Cherche_FFF(poste.dossier, ref);
+    if (code == u"DPLF")
+        return Cherche_DPLF(poste.dossier, ref);
+    if (code == u"DFCF" || code == u"Ch_DFCF")
+        return {.nom = Cherche_DFCF(poste.dossier, ref), .dpt = {}};
+    if (code == u"PC")
+        return Cherche_PC(poste.dossier, ref);
+    return {};
+}
+
+void Remplit_Dpt(Vue_Saisie &vue, const Regle_Ref &regle, const Reference_Trouvee &trouvee, QStringView ref)
+{
+    if (regle.dpt == Source_Dpt::Inchange)
+        return;
+    const bool recherche = regle.dpt == Source_Dpt::Recherche;
+    vue.Ecrit(Controle::Dpt_A, recherche ? trouvee.dpt.value_or(QString()) : Dpt_De_Ref(regle.dpt, ref));
+}
+
+void Remplit_Nom(Vue_Saisie &vue, const Regle_Ref &regle, const Reference_Trouvee &trouvee)
+{
+    if (!regle.nom_recherche)
+        return;
+    QString nom = trouvee.nom.value_or(QString());
+    if (regle.nom_en_capitales)
+        nom = Majuscules_1252(nom);
+    if (regle.coupe > 0)
+        nom.truncate(regle.coupe);
+    vue.Ecrit(Controle::Nom_A, nom);
+}
+
+/// The prefix replaces what the look-up found: the operator types the name behind it.
+void Pose_Prefixe(const Poste &poste, Vue_Saisie &vue, const Regle_Ref &regle)
+{
+    if (regle.prefixe.isEmpty() || (poste.etat.QSO_Touche() && !regle.prefixe_en_edition))
+        return;
+    vue.Ecrit(Controle::Nom_A, regle.prefixe.toString());
+    vue.Curseur_A_La_Fin(Controle::Nom_A);
+}
+
+/// False if the reference was refused.
+bool Applique_Regle(Poste &poste, Vue_Saisie &vue, const Regle_Ref &regle, const QString &ref)
+{
+    if (!Passe(poste, Refus_Forme_Ref(regle, ref)))
+        return false;
+    const Reference_Trouvee trouvee = Recherche(poste, ref);
+    if (regle.code == u"DCF" && trouvee.dpt.value_or(QString()).isEmpty())
+        poste.boites.Message(u"Référence non trouvée, cliquez sur le bouton 'Liste Cathédrales'"_s);
+    Remplit_Dpt(vue, regle, trouvee, ref);
+    Remplit_Nom(vue, regle, trouvee);
+    Pose_Prefixe(poste, vue, regle);
+    return true;
+}
+
+} // namespace
+
+void Entree_Ref(Poste &poste, Vue_Saisie &vue)
+{
+    const QString ref = vue.Texte(Controle::Ref_A);
+    if (!Passe(poste, Refus_Longueur_Generale(ref)) || !Passe(poste, Refus_Repetition(poste, ref)))
+        return;
+    const Regle_Ref *regle = Regle_Ref_De(poste.etat.diplome);
+    if (regle && !Applique_Regle(poste, vue, *regle, ref))
+        return;
+    Avance(vue, Controle::Dpt_A);
+}

@@ -1,0 +1,151 @@
+#include "saisie/QSO_Courant.h"
+
+#include "log/Catalogue.h"
+#include "log/Ecritures_Log.h"
+#include "log/Etat_Commun.h"
+#include "log/Ligne_Affichage.h"
+#include "log/Poste.h"
+#include "plateforme/Boites.h"
+#include "plateforme/Windows_1252.h"
+#include "saisie/Choix_Retenu.h"
+#include "saisie/Liste_Prenom.h"
+#include "saisie/Passage.h"
+#include "saisie/Repos.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+namespace col = colonnes_log;
+
+/// The length that a field must not go beyond, and what is said then.
+struct Limite {
+    Controle champ;
+    qsizetype maximum;
+    QStringView refus;
+};
+
+// An edit can come here without any field check, and a line of fixed columns has no room for more. The name is cut.
+// clang-format off
+constexpr Limite limites[] = {
+    {Controle::Bande_A, col::Bande.largeur, u"7 caracteres maxi pour la bande"},
+    {Controle::Ind_A, col::Ind.largeur, u"12 caracteres maxi pour l'indicatif"},
+    {Controle::Prenom_A, col::Prenom.largeur, u"15 caracteres maxi pour le prénom"},
+    {Controle::Ref_A, col::Ref.largeur, u"10 caracteres maxi pour la reference (pas de tiret)"},
+    {Controle::Dpt_A, col::Dpt.largeur, u"2 caracteres pour le Departement ex : 05 ou 77"},
+    {Controle::Mode_A, col::Mode.largeur, u"3 caracteres maxi pour le Mode"},
+    {Controle::RSTR_A, col::RSTR.largeur, u"3 caracteres maxi pour le Report"},
+    {Controle::RSTE_A, col::RSTE.largeur, u"3 caracteres maxi pour le Report"},
+};
+// clang-format on
+
+bool Tient(Poste &poste, Vue_Saisie &vue, Controle champ, const Refus &refus)
+{
+    if (Passe(poste, refus))
+        return true;
+    vue.Active(champ, true);
+    vue.Donne_Focus(champ);
+    return false;
+}
+
+Refus Refus_Longueur_Date(const QString &date)
+{
+    return date.size() == col::Date.largeur ? std::nullopt : Refus_Date(date);
+}
+
+Refus Refus_Longueur_Heure(const QString &heure)
+{
+    return heure.size() == col::Heure.largeur ? std::nullopt : Refus_Heure(heure);
+}
+
+/// False if a field does not fit its columns: the operator was told and stands in that field.
+bool Tient_Dans_Les_Colonnes(Poste &poste, Vue_Saisie &vue)
+{
+    for (const Limite &limite : limites) {
+        const bool trop_long = vue.Texte(limite.champ).size() > limite.maximum;
+        if (!Tient(poste, vue, limite.champ, trop_long ? Refus(limite.refus.toString()) : std::nullopt))
+            return false;
+    }
+    return Tient(poste, vue, Controle::Date_A, Refus_Longueur_Date(vue.Texte(Controle::Date_A))) &&
+           Tient(poste, vue, Controle::Heure_A, Refus_Longueur_Heure(vue.Texte(Controle::Heure_A)));
+}
+
+/// A new QSO goes to the log that Dip_A names, so that text must be an award.
+bool A_Un_Log(Poste &poste, Vue_Saisie &vue)
+{
+    const bool ajoute = !poste.etat.qso_affiche && !poste.etat.saisie_differee;
+    const bool sans_log = ajoute && !Est_Code_Diplome(vue.Dip_A());
+    return Tient(poste, vue, Controle::Dip_A, sans_log ? Refus(u"Selectionnez un diplome"_s) : std::nullopt);
+}
+
+void Retient_Prenom(Poste &poste, Vue_Saisie &vue)
+{
+    if (!poste.etat.prenom_nouveau)
+        return;
+    const QString prenom = Majuscules_1252(vue.Texte(Controle::Prenom_A));
+    vue.Ecrit(Controle::Prenom_A, prenom);
+    Maj_Prenom(poste.dossier,
+               QString(Complete(vue.Texte(Controle::Ind_A), 13) + Complete(vue.Texte(Controle::Dpt_A), 3) + prenom));
+}
+
+QString Compose(Vue_Saisie &vue)
+{
+    if (vue.Texte(Controle::Nom_A).size() > col::Nom.largeur)
+        vue.Ecrit(Controle::Nom_A, vue.Texte(Controle::Nom_A).left(col::Nom.largeur));
+    return Compose_Ligne_Log({.ind = vue.Texte(Controle::Ind_A),
+                              .dpt = vue.Texte(Controle::Dpt_A),
+                              .prenom = vue.Texte(Controle::Prenom_A),
+                              .ref = vue.Texte(Controle::Ref_A),
+                              .date = vue.Texte(Controle::Date_A),
+                              .heure = vue.Texte(Controle::Heure_A),
+                              .mode = vue.Texte(Controle::Mode_A),
+                              .bande = vue.Texte(Controle::Bande_A),
+                              .rstr = vue.Texte(Controle::RSTR_A),
+                              .rste = vue.Texte(Controle::RSTE_A),
+                              .nom = vue.Texte(Controle::Nom_A),
+                              .qsl = vue.QSL_Coche() ? qsl_tenue.toString() : u" "_s});
+}
+
+void Range(Poste &poste, const Vue_Saisie &vue, const QString &ligne)
+{
+    if (poste.etat.qso_affiche)
+        Remplace_Ligne(poste, ligne, Ligne_Log_Affichee(poste.etat.ligne_selectionnee));
+    else if (!poste.etat.saisie_differee)
+        Ajoute_Ligne(poste, ligne, vue.Dip_A());
+    else
+        Insere_Ligne(poste, ligne);
+}
+
+/// The next QSO starts at Ind_A; award, band and mode stay.
+void Prepare_Le_Suivant(Poste &poste, Vue_Saisie &vue)
+{
+    poste.etat.qso_affiche = false;
+    vue.Ecrit(Controle::Mode_Aff, u"Saisie QSO"_s);
+    poste.etat.qso_en_edition = false;
+    for (const Controle champ : {Controle::Ind_A, Controle::Dpt_A, Controle::Prenom_A, Controle::Ref_A,
+                                 Controle::Date_A, Controle::Heure_A, Controle::Nom_A})
+        vue.Ecrit(champ, QString());
+    Reports_Selon_Mode(vue);
+    vue.Coche_QSL(false);
+    vue.Active(Controle::Ind_A, true);
+    vue.Donne_Focus(Controle::Ind_A);
+    for (const Controle champ :
+         {Controle::Dpt_A, Controle::Prenom_A, Controle::Ref_A, Controle::Date_A, Controle::Heure_A, Controle::Mode_A,
+          Controle::RSTR_A, Controle::RSTE_A, Controle::Nom_A, Controle::QSL_A, Controle::Valide_A})
+        vue.Active(champ, false);
+    Reprend_Bande_Et_Mode(poste, vue);
+}
+
+} // namespace
+
+void Valide_QSO(Poste &poste, Vue_Saisie &vue)
+{
+    if (!A_Un_Log(poste, vue) || !Tient_Dans_Les_Colonnes(poste, vue))
+        return;
+    if (!poste.boites.Question(u"Voulez vous enregistrer ces données ?"_s))
+        return;
+    Retient_Prenom(poste, vue);
+    Range(poste, vue, Compose(vue));
+    vue.Selectionne_Derniere();
+    Prepare_Le_Suivant(poste, vue);
+}
