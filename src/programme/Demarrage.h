@@ -1,0 +1,8 @@
+#pragma once
+
+struct Poste;
+class Vue_Saisie;
+
+/// Opens the program on the station of the settings: fixed lists, choices, backup, log, and the entry at rest.
+/// No failure of a step stops it or is shown: the next step runs regardless.
+void Demarre(Poste &poste, Vue_Saisie &vue);
