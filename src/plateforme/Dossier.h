@@ -2,6 +2,8 @@
 
 #include "plateforme/Lignes_Texte.h"
 
+#include <QByteArray>
+#include <QByteArrayView>
 #include <QString>
 #include <QStringView>
 
@@ -16,13 +18,20 @@ public:
     [[nodiscard]] virtual QString Repertoire_Appli() const = 0;
     /// True if the file can be opened for reading.
     [[nodiscard]] virtual bool S_Ouvre(const QString &nom) const = 0;
+    /// True if anything bears that name, readable or not.
+    [[nodiscard]] virtual bool Existe(const QString &nom) const = 0;
     /// The whole text of a file.
     [[nodiscard]] virtual QString Lit(const QString &nom) const = 0;
     [[nodiscard]] Lignes_Texte Lit_Lignes(const QString &nom) const { return Lignes_Texte(Lit(nom)); }
 
+    /// The bytes of a file as they are.
+    [[nodiscard]] virtual QByteArray Octets(const QString &nom) const = 0;
+
     /// Puts `texte` in the place of a file, or makes it: written whole to `temporaire`, synced, renamed over `nom`.
     /// After a crash at any instant the file is the old one or the new one, whole.
     virtual void Remplace(const QString &nom, QStringView texte, const QString &temporaire) = 0;
+    /// The same for bytes that are not the program's own text.
+    virtual void Remplace_Octets(const QString &nom, QByteArrayView octets, const QString &temporaire) = 0;
     /// Appends one line with its CR LF and syncs it; a last line that lost its line end gets it first.
     /// A file that is absent is made.
     virtual void Ajoute(const QString &nom, QStringView ligne) = 0;

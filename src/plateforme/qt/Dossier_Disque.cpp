@@ -12,9 +12,7 @@
 
 using namespace Qt::StringLiterals;
 
-Dossier_Disque::Dossier_Disque(QString repertoire) : repertoire_(std::move(repertoire))
-{
-}
+Dossier_Disque::Dossier_Disque(QString repertoire) : repertoire_(std::move(repertoire)) {}
 
 QString Dossier_Disque::Chemin(const QString &nom) const
 {
@@ -27,14 +25,30 @@ bool Dossier_Disque::S_Ouvre(const QString &nom) const
     return fichier.open(QIODevice::ReadOnly);
 }
 
+bool Dossier_Disque::Existe(const QString &nom) const
+{
+    const QFileInfo fichier(Chemin(nom));
+    return fichier.exists() || fichier.isSymLink();
+}
+
 QString Dossier_Disque::Lit(const QString &nom) const
 {
-    return Decode_1252(Lit_Fichier(Chemin(nom)));
+    return Decode_1252(Octets(nom));
+}
+
+QByteArray Dossier_Disque::Octets(const QString &nom) const
+{
+    return Lit_Fichier(Chemin(nom));
 }
 
 void Dossier_Disque::Remplace(const QString &nom, QStringView texte, const QString &temporaire)
 {
-    Remplace_Fichier(Chemin(nom), Encode_1252(texte), Chemin(temporaire));
+    Remplace_Octets(nom, Encode_1252(texte), temporaire);
+}
+
+void Dossier_Disque::Remplace_Octets(const QString &nom, QByteArrayView octets, const QString &temporaire)
+{
+    Remplace_Fichier(Chemin(nom), octets, Chemin(temporaire));
 }
 
 void Dossier_Disque::Ajoute(const QString &nom, QStringView ligne)

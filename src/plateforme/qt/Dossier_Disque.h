@@ -9,8 +9,11 @@ public:
 
     [[nodiscard]] QString Repertoire_Appli() const override { return repertoire_; }
     [[nodiscard]] bool S_Ouvre(const QString &nom) const override;
+    [[nodiscard]] bool Existe(const QString &nom) const override;
     [[nodiscard]] QString Lit(const QString &nom) const override;
+    [[nodiscard]] QByteArray Octets(const QString &nom) const override;
     void Remplace(const QString &nom, QStringView texte, const QString &temporaire) override;
+    void Remplace_Octets(const QString &nom, QByteArrayView octets, const QString &temporaire) override;
     void Ajoute(const QString &nom, QStringView ligne) override;
     void Cree_Si_Absent(const QString &nom) override;
     void Supprime(const QString &nom) override;
