@@ -10,7 +10,7 @@ class Reglages;
 struct Ports {
     Dossier &dossier;
     Reglages &reglages;
-    Horloge &horloge;
+    const Horloge &horloge;
     Boites &boites;
     Ecrans &ecrans;
 };

@@ -4,6 +4,8 @@
 
 #include <algorithm>
 #include <array>
+#include <cstdint>
+#include <cstring>
 
 using namespace Qt::StringLiterals;
 
@@ -37,16 +39,32 @@ constexpr char16_t Majuscule(char16_t unite)
     }
 }
 
+/// The place of the first byte from `debut` on that is not ASCII, or the size. Most of a log is ASCII, so eight bytes
+/// are passed over at a time.
+qsizetype Suite_ASCII(QByteArrayView octets, qsizetype debut)
+{
+    std::uint64_t huit = 0;
+    while (debut + 8 <= octets.size()) {
+        std::memcpy(&huit, octets.data() + debut, sizeof huit);
+        if (huit & 0x8080808080808080U)
+            break;
+        debut += 8;
+    }
+    while (debut < octets.size() && static_cast<unsigned char>(octets[debut]) < 0x80)
+        ++debut;
+    return debut;
+}
+
 } // namespace
 
 QString Decode_1252(QByteArrayView octets)
 {
     QString texte = QString::fromLatin1(octets);
-    const auto *source = reinterpret_cast<const unsigned char *>(octets.data());
+    const char *source = octets.data();
     QChar *cible = nullptr;
-    for (qsizetype i = 0; i < octets.size(); ++i) {
-        const unsigned char octet = source[i];
-        if (octet < 0x80 || octet > 0x9F)
+    for (qsizetype i = Suite_ASCII(octets, 0); i < octets.size(); i = Suite_ASCII(octets, i + 1)) {
+        const auto octet = static_cast<unsigned char>(source[i]);
+        if (octet > 0x9F)
             continue;
         if (!cible)
             cible = texte.data();
@@ -76,8 +94,7 @@ QByteArray Encode_1252(QStringView texte)
 
 bool Est_Dans_1252(QChar caractere)
 {
-    return Est_Direct(caractere.unicode()) ||
-           std::find(haut.begin(), haut.end(), caractere.unicode()) != haut.end();
+    return Est_Direct(caractere.unicode()) || std::find(haut.begin(), haut.end(), caractere.unicode()) != haut.end();
 }
 
 QString Majuscules_1252(QStringView texte)
