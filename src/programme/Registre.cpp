@@ -6,6 +6,12 @@
 
 #include <utility>
 
+Registre::~Registre()
+{
+    for (const QPointer<QWidget> &ecran : std::as_const(ouverts_))
+        delete ecran.data();
+}
+
 void Registre::Inscrit_Ecran(const QString &nom, Fabrique fabrique)
 {
     fabriques_.insert(nom, std::move(fabrique));

@@ -14,6 +14,12 @@ class Registre : public Ecrans, public Commandes {
 public:
     using Fabrique = std::function<QWidget *()>;
 
+    Registre() = default;
+    /// Screens that are still open go with the program.
+    ~Registre() override;
+    Registre(const Registre &) = delete;
+    Registre &operator=(const Registre &) = delete;
+
     void Inscrit_Ecran(const QString &nom, Fabrique fabrique);
     void Inscrit_Commande(const QString &nom, std::function<void()> commande);
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QAbstractButton>
+#include <QAbstractItemView>
 #include <QAction>
 #include <QApplication>
 #include <QMessageBox>
@@ -33,7 +34,10 @@ Widget *Trouve(const QWidget &ecran, const QString &nom)
 
 inline void Tape(QWidget &widget, const QString &texte)
 {
-    QTest::keyClicks(&widget, texte);
+    // Accented letters have keys of their own on a French keyboard, which QTest::keyClicks() does not know.
+    for (const QChar caractere : texte)
+        QTest::sendKeyEvent(QTest::Click, &widget, static_cast<Qt::Key>(caractere.toUpper().unicode()),
+                            QString(caractere), Qt::NoModifier);
 }
 
 inline void Entree(QWidget &widget)
@@ -64,6 +68,46 @@ inline std::vector<QString> Repond(const std::vector<QString> &reponses, const s
     guetteur.start();
     action();
     return textes;
+}
+
+/// Runs `action`, which blocks on the modal screen `nom`; as soon as that is open, `etapes` drives it.
+inline void Pendant_Modal(const QString &nom, const std::function<void()> &action,
+                          const std::function<void(QWidget &)> &etapes)
+{
+    QTimer guetteur;
+    guetteur.setInterval(5);
+    QObject::connect(&guetteur, &QTimer::timeout, [&] {
+        QWidget *ecran = Fenetre(nom);
+        if (!ecran || !ecran->isVisible())
+            return;
+        guetteur.stop();
+        etapes(*ecran);
+    });
+    guetteur.start();
+    action();
+}
+
+/// The rows of a list, one text each.
+inline std::vector<QString> Rangees(const QAbstractItemView &liste)
+{
+    std::vector<QString> textes;
+    for (int rang = 0; rang < liste.model()->rowCount(); ++rang)
+        textes.push_back(liste.model()->index(rang, 0).data().toString());
+    return textes;
+}
+
+/// A real click on a row, and a real double click (whose first click is one).
+inline void Clique(QAbstractItemView &liste, int rang)
+{
+    const QModelIndex index = liste.model()->index(rang, 0);
+    liste.scrollTo(index);
+    QTest::mouseClick(liste.viewport(), Qt::LeftButton, {}, liste.visualRect(index).center());
+}
+inline void Double_Clique(QAbstractItemView &liste, int rang)
+{
+    Clique(liste, rang);
+    const QModelIndex index = liste.model()->index(rang, 0);
+    QTest::mouseDClick(liste.viewport(), Qt::LeftButton, {}, liste.visualRect(index).center());
 }
 
 } // namespace conduite

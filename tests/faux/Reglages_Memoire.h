@@ -18,8 +18,7 @@ public:
     {
         vorlain[{section, cle}] = valeur;
     }
-    [[nodiscard]] QString Lit_Trelune(const QString &section, const QString &cle,
-                                      const QString &defaut) const override
+    [[nodiscard]] QString Lit_Trelune(const QString &section, const QString &cle, const QString &defaut) const override
     {
         return Cherche(trelune, section, cle, defaut);
     }

@@ -1,0 +1,23 @@
+#include "programme/Programme.h"
+
+#include "listes/Fichiers_De_Depart.h"
+#include "programme/Demarrage.h"
+#include "programme/Inscriptions.h"
+
+Programme::Programme(const QString &repertoire, const Horloge &horloge)
+    : dossier_(repertoire),
+      ecran_({dossier_, reglages_, horloge, boites_, registre_}, etat_)
+{
+    Inscrit(registre_, ecran_.Le_Poste(), ecran_);
+    ecran_.Installe_Menus(registre_);
+}
+
+void Programme::Installe()
+{
+    Depose_Fichiers_De_Depart(dossier_);
+}
+
+void Programme::Ouvre()
+{
+    Demarre(ecran_.Le_Poste(), ecran_);
+}

@@ -1,0 +1,32 @@
+#pragma once
+
+#include "log/Etat_Commun.h"
+#include "plateforme/qt/Boites_Qt.h"
+#include "plateforme/qt/Dossier_Disque.h"
+#include "plateforme/qt/Reglages_Qt.h"
+#include "programme/Registre.h"
+#include "saisie/ecrans/Main.h"
+
+class Horloge;
+
+/// The whole program on one folder: the real ports, the common state, the screens.
+class Programme {
+public:
+    Programme(const QString &repertoire, const Horloge &horloge);
+
+    /// Lays the starter files, as an installer would.
+    void Installe();
+    /// Runs the start-up; the main screen is then open.
+    void Ouvre();
+
+    [[nodiscard]] Main &Ecran() { return ecran_; }
+    [[nodiscard]] Registre &Les_Ecrans() { return registre_; }
+
+private:
+    Boites_Qt boites_;
+    Dossier_Disque dossier_;
+    Reglages_Qt reglages_;
+    Registre registre_;
+    Etat_Commun etat_;
+    Main ecran_;
+};
