@@ -15,6 +15,11 @@ public:
     [[nodiscard]] virtual const Lignes_Texte &Liste_QSO() const = 0;
     /// Selects the last entry and runs the list's click handling for it; an empty list selects nothing.
     virtual void Selectionne_Derniere() = 0;
+    /// Selects the entry of that rank, counted from 0, and runs the list's click handling for it; a rank outside the
+    /// list selects nothing.
+    virtual void Selectionne_QSO(std::size_t rang) = 0;
+    /// The Ligne_Affichage of the entry that is selected; empty if none is.
+    [[nodiscard]] virtual QString QSO_Selectionne() const = 0;
     virtual void Active_Ind_A() = 0;
 
     /// The text of Dip_A, which need not be the current award.

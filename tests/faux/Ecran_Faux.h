@@ -15,6 +15,13 @@ public:
         appels.push_back(QStringLiteral("Selectionne_Derniere"));
         selection = liste.empty() ? QString() : Ligne_Affichage(liste.size(), liste[liste.size() - 1]);
     }
+    void Selectionne_QSO(std::size_t rang) override
+    {
+        appels.push_back(QStringLiteral("Selectionne_QSO %1").arg(rang));
+        if (rang < liste.size())
+            selection = Ligne_Affichage(rang + 1, liste[rang]);
+    }
+    [[nodiscard]] QString QSO_Selectionne() const override { return selection; }
     void Active_Ind_A() override { appels.push_back(QStringLiteral("Active_Ind_A")); }
     [[nodiscard]] QString Dip_A() const override { return dip_a; }
     [[nodiscard]] QString I_Station() const override { return i_station; }
