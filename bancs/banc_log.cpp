@@ -31,7 +31,7 @@ QByteArray Log(std::int64_t lignes)
 /// The real main screen on a log of that many lines.
 struct Logbook {
     Poste_Essai essai;
-    Main ecran{{essai.dossier, essai.reglages, essai.horloge, essai.boites, essai.ecrans}, essai.etat};
+    Main ecran{essai.poste, essai.etat};
 
     explicit Logbook(std::int64_t lignes)
     {

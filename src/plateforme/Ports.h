@@ -4,6 +4,7 @@ class Boites;
 class Dossier;
 class Ecrans;
 class Horloge;
+class Imprimante;
 class Reglages;
 
 /// What the program needs of the platform, handed by reference to whoever works with it.
@@ -13,4 +14,5 @@ struct Ports {
     const Horloge &horloge;
     Boites &boites;
     Ecrans &ecrans;
+    Imprimante &imprimante;
 };

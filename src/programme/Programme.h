@@ -3,6 +3,7 @@
 #include "log/Etat_Commun.h"
 #include "plateforme/qt/Boites_Qt.h"
 #include "plateforme/qt/Dossier_Disque.h"
+#include "plateforme/qt/Imprimante_Qt.h"
 #include "plateforme/qt/Reglages_Qt.h"
 #include "programme/Registre.h"
 #include "saisie/ecrans/Main.h"
@@ -27,6 +28,7 @@ private:
     Dossier_Disque dossier_;
     Reglages_Qt reglages_;
     Registre registre_;
+    Imprimante_Qt imprimante_;
     Etat_Commun etat_;
     Main ecran_;
 };

@@ -4,6 +4,7 @@
 #include "faux/Ecran_Faux.h"
 #include "faux/Ecrans_Faux.h"
 #include "faux/Horloge_Fixe.h"
+#include "faux/Imprimante_Fausse.h"
 #include "faux/Reglages_Memoire.h"
 #include "log/Etat_Commun.h"
 #include "log/Poste.h"
@@ -50,9 +51,10 @@ struct Poste_Essai {
     Horloge_Fixe horloge;
     Boites_Fausses boites;
     Ecrans_Faux ecrans;
+    Imprimante_Fausse imprimante;
     Etat_Commun etat;
     Ecran_Faux ecran;
-    Poste poste{{dossier, reglages, horloge, boites, ecrans}, etat, ecran};
+    Poste poste{{dossier, reglages, horloge, boites, ecrans, imprimante}, etat, ecran};
 
     Poste_Essai()
     {

@@ -1,0 +1,16 @@
+#pragma once
+
+#include <QString>
+
+#include <optional>
+#include <vector>
+
+/// The printer.
+class Imprimante {
+public:
+    virtual ~Imprimante() = default;
+    /// Lets the user choose the printer, then prints the lines from top to bottom in a fixed-pitch bold font of 9
+    /// points, over as many pages as they need. A dismissed choice does not stop the printing. Gives what kept the
+    /// lines from paper, in words for the user; nullopt when they were printed.
+    [[nodiscard]] virtual std::optional<QString> Imprime(const std::vector<QString> &lignes) = 0;
+};
