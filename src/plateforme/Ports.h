@@ -6,6 +6,7 @@ class Ecrans;
 class Horloge;
 class Imprimante;
 class Reglages;
+class Telechargement;
 
 /// What the program needs of the platform, handed by reference to whoever works with it.
 struct Ports {
@@ -15,4 +16,5 @@ struct Ports {
     Boites &boites;
     Ecrans &ecrans;
     Imprimante &imprimante;
+    Telechargement &telechargement;
 };

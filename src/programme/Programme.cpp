@@ -6,7 +6,7 @@
 
 Programme::Programme(const QString &repertoire, const Horloge &horloge)
     : dossier_(repertoire),
-      ecran_({dossier_, reglages_, horloge, boites_, registre_, imprimante_}, etat_)
+      ecran_({dossier_, reglages_, horloge, boites_, registre_, imprimante_, telechargement_}, etat_)
 {
     Inscrit(registre_, ecran_.Le_Poste(), ecran_);
     ecran_.Installe_Menus(registre_);

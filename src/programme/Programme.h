@@ -5,6 +5,7 @@
 #include "plateforme/qt/Dossier_Disque.h"
 #include "plateforme/qt/Imprimante_Qt.h"
 #include "plateforme/qt/Reglages_Qt.h"
+#include "plateforme/qt/Telechargement_Qt.h"
 #include "programme/Registre.h"
 #include "saisie/ecrans/Main.h"
 
@@ -27,6 +28,7 @@ private:
     Boites_Qt boites_;
     Dossier_Disque dossier_;
     Reglages_Qt reglages_;
+    Telechargement_Qt telechargement_;
     Registre registre_;
     Imprimante_Qt imprimante_;
     Etat_Commun etat_;

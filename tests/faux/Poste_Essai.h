@@ -6,6 +6,7 @@
 #include "faux/Horloge_Fixe.h"
 #include "faux/Imprimante_Fausse.h"
 #include "faux/Reglages_Memoire.h"
+#include "faux/Telechargement_Faux.h"
 #include "log/Etat_Commun.h"
 #include "log/Poste.h"
 #include "plateforme/qt/Dossier_Disque.h"
@@ -52,9 +53,10 @@ struct Poste_Essai {
     Boites_Fausses boites;
     Ecrans_Faux ecrans;
     Imprimante_Fausse imprimante;
+    Telechargement_Faux telechargement;
     Etat_Commun etat;
     Ecran_Faux ecran;
-    Poste poste{{dossier, reglages, horloge, boites, ecrans, imprimante}, etat, ecran};
+    Poste poste{{dossier, reglages, horloge, boites, ecrans, imprimante, telechargement}, etat, ecran};
 
     Poste_Essai()
     {
