@@ -147,6 +147,16 @@ void Main::Selectionne_Derniere()
     liste_->Selectionne(liste_->Nombre() - 1);
 }
 
+void Main::Selectionne_QSO(std::size_t rang)
+{
+    liste_->Selectionne(static_cast<int>(rang));
+}
+
+QString Main::QSO_Selectionne() const
+{
+    return liste_->Rang_Courant() < 0 ? QString() : liste_->Entree(liste_->Rang_Courant());
+}
+
 void Main::Efface()
 {
     Efface_Tout(poste_.etat, *this);

@@ -27,6 +27,8 @@ public:
     void Remplit_Liste(Lignes_Texte lignes) override;
     [[nodiscard]] const Lignes_Texte &Liste_QSO() const override { return lignes_; }
     void Selectionne_Derniere() override;
+    void Selectionne_QSO(std::size_t rang) override;
+    [[nodiscard]] QString QSO_Selectionne() const override;
     void Active_Ind_A() override { Active(Controle::Ind_A, true); }
     [[nodiscard]] QString Dip_A() const override { return Texte(Controle::Dip_A); }
     [[nodiscard]] QString I_Station() const override { return Texte(Controle::I_Station); }
