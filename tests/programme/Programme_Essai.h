@@ -7,6 +7,8 @@
 #include "log/Catalogue.h"
 #include "programme/Programme.h"
 
+#include <QDir>
+#include <QFile>
 #include <QSettings>
 
 #include <gtest/gtest.h>
