@@ -55,6 +55,14 @@ qsizetype Suite_ASCII(QByteArrayView octets, qsizetype debut)
     return debut;
 }
 
+/// Names the character that a text begins with, which may take two units.
+[[noreturn]] void Refuse(QStringView texte)
+{
+    const bool double_unite = texte.size() > 1 && texte[0].isHighSurrogate() && texte[1].isLowSurrogate();
+    throw Erreur_Execution(Cause::Caractere, u"le caractère « %1 » ne peut pas être enregistré dans un fichier"_s.arg(
+                                                 texte.first(double_unite ? 2 : 1)));
+}
+
 } // namespace
 
 QString Decode_1252(QByteArrayView octets)
@@ -77,16 +85,15 @@ QByteArray Encode_1252(QStringView texte)
 {
     QByteArray octets(texte.size(), Qt::Uninitialized);
     char *cible = octets.data();
-    for (const QChar caractere : texte) {
-        const char16_t unite = caractere.unicode();
+    for (qsizetype i = 0; i < texte.size(); ++i) {
+        const char16_t unite = texte[i].unicode();
         if (Est_Direct(unite)) {
             *cible++ = static_cast<char>(unite);
             continue;
         }
         const auto *place = std::find(haut.begin(), haut.end(), unite);
         if (place == haut.end())
-            throw Erreur_Execution(Cause::Caractere,
-                                   u"le caractère « %1 » ne peut pas être enregistré dans un fichier"_s.arg(caractere));
+            Refuse(texte.sliced(i));
         *cible++ = static_cast<char>(0x80 + (place - haut.begin()));
     }
     return octets;

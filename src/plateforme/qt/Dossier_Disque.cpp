@@ -6,11 +6,26 @@
 
 #include <QDir>
 #include <QFile>
-#include <QFileInfo>
 
 #include <utility>
 
 using namespace Qt::StringLiterals;
+
+namespace {
+
+/// The bytes of a text that goes to the file `chemin`.
+QByteArray Encode(const QString &chemin, QStringView texte)
+{
+    try {
+        return Encode_1252(texte);
+    } catch (const Erreur_Execution &erreur) {
+        // The code page knows no files: the name of the log is told here.
+        throw Erreur_Execution(erreur.La_Cause(),
+                               u"%1 n'a pas été modifié : %2"_s.arg(QDir::toNativeSeparators(chemin), erreur.Texte()));
+    }
+}
+
+} // namespace
 
 Dossier_Disque::Dossier_Disque(QString repertoire) : repertoire_(std::move(repertoire)) {}
 
@@ -43,7 +58,7 @@ QByteArray Dossier_Disque::Octets(const QString &nom) const
 
 void Dossier_Disque::Remplace(const QString &nom, QStringView texte, const QString &temporaire)
 {
-    Remplace_Octets(nom, Encode_1252(texte), temporaire);
+    Remplace_Octets(nom, Encode(Chemin(nom), texte), temporaire);
 }
 
 void Dossier_Disque::Remplace_Octets(const QString &nom, QByteArrayView octets, const QString &temporaire)
@@ -53,9 +68,10 @@ void Dossier_Disque::Remplace_Octets(const QString &nom, QByteArrayView octets, 
 
 void Dossier_Disque::Ajoute(const QString &nom, QStringView ligne)
 {
-    QByteArray octets = Encode_1252(ligne);
+    const QString cible = Chemin(nom);
+    QByteArray octets = Encode(cible, ligne);
     octets += "\r\n";
-    Ajoute_Au_Fichier(Chemin(nom), octets);
+    Ajoute_Au_Fichier(cible, octets);
 }
 
 void Dossier_Disque::Cree_Si_Absent(const QString &nom)
@@ -65,10 +81,7 @@ void Dossier_Disque::Cree_Si_Absent(const QString &nom)
 
 void Dossier_Disque::Supprime(const QString &nom)
 {
-    QFile fichier(Chemin(nom));
-    if (!fichier.remove())
-        throw Erreur_Execution(fichier.exists() ? Cause::Fichier_Refuse : Cause::Fichier_Introuvable,
-                               u"%1 ne peut pas être supprimé"_s.arg(QDir::toNativeSeparators(fichier.fileName())));
+    Supprime_Fichier(Chemin(nom));
 }
 
 void Dossier_Disque::Copie(const QString &source, const QString &cible)

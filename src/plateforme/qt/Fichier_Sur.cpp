@@ -32,10 +32,18 @@ QString Raison(int numero)
         return u"le disque est protégé en écriture"_s;
     case EISDIR:
         return u"c'est un répertoire"_s;
+    case ENOTDIR:
+        return u"une partie du chemin n'est pas un répertoire"_s;
     case ENAMETOOLONG:
         return u"nom de fichier trop long"_s;
+    case EFBIG:
+        return u"fichier trop gros"_s;
+    case EIO:
+        return u"le disque ne répond pas bien"_s;
+    case EXDEV:
+        return u"sur un autre disque que le fichier temporaire"_s;
     default:
-        return QString::fromLocal8Bit(qt_error_string(numero).toLocal8Bit());
+        return u"erreur %1 du système"_s.arg(numero);
     }
 }
 
@@ -169,8 +177,8 @@ void Remplace_Fichier(const QString &cible, QByteArrayView octets, const QString
     } catch (const Erreur_Execution &erreur) {
         ::unlink(QFile::encodeName(temporaire).constData());
         // The user knows the log by its name, not the temporary file that could not be written.
-        throw Erreur_Execution(erreur.La_Cause(), u"%1 n'a pas été modifié : %2"_s.arg(
-                                                      QDir::toNativeSeparators(reelle), erreur.Texte()));
+        throw Erreur_Execution(erreur.La_Cause(),
+                               u"%1 n'a pas été modifié : %2"_s.arg(QDir::toNativeSeparators(reelle), erreur.Texte()));
     }
     Synchronise_Dossier(reelle);
 }
@@ -189,8 +197,9 @@ void Ajoute_Au_Fichier(const QString &chemin, QByteArrayView ligne)
         fichier.Synchronise();
         fichier.Ferme();
     } catch (const Erreur_Execution &) {
-        // A line that was cut by a full disk must not stay behind.
-        std::ignore = ::truncate(QFile::encodeName(chemin).constData(), taille);
+        // A line that was cut by a full disk must not stay behind, nor a file that was born for it.
+        const QByteArray nom = QFile::encodeName(chemin);
+        std::ignore = nouveau ? ::unlink(nom.constData()) : ::truncate(nom.constData(), taille);
         throw;
     }
     if (nouveau)
@@ -207,6 +216,12 @@ void Cree_Fichier_Absent(const QString &chemin)
     }
     ::close(numero);
     Synchronise_Dossier(chemin);
+}
+
+void Supprime_Fichier(const QString &chemin)
+{
+    if (::unlink(QFile::encodeName(chemin).constData()) != 0)
+        Echoue(chemin, errno);
 }
 
 QByteArray Lit_Fichier(const QString &chemin)

@@ -16,4 +16,6 @@ void Ajoute_Au_Fichier(const QString &chemin, QByteArrayView ligne);
 /// An empty file where none stands.
 void Cree_Fichier_Absent(const QString &chemin);
 
+void Supprime_Fichier(const QString &chemin);
+
 QByteArray Lit_Fichier(const QString &chemin);
