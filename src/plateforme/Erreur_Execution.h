@@ -9,10 +9,11 @@ enum class Cause {
     Fichier_Introuvable,
     Fichier_Refuse, ///< not readable, not writable, a folder in the place of a file
     Disque_Plein,
-    Caractere,   ///< a character that the Windows-1252 files cannot hold
-    Type,        ///< a text that is no whole number where one is needed
-    Indice,      ///< a number outside its table
-    Format_Liste ///< a list line with fewer separators than its reader needs
+    Caractere,    ///< a character that the Windows-1252 files cannot hold
+    Type,         ///< a text that is no whole number where one is needed
+    Indice,       ///< a number outside its table
+    Format_Liste, ///< a list line with fewer separators than its reader needs
+    Format_ADIF   ///< an ADIF record that cannot become a line of the log
 };
 
 /// The unhandled failure: ends the program with its report, unless a step is run through Tolere().
