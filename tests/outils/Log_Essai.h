@@ -8,6 +8,15 @@
 #include <random>
 #include <vector>
 
+/// The bytes of a file beside the tests: "donnees/..." or "attendus/...".
+inline QByteArray Octets_Essai(const QString &nom)
+{
+    QFile fichier(QStringLiteral(DONNEES_ESSAI "/") + nom);
+    if (!fichier.open(QIODevice::ReadOnly))
+        throw std::runtime_error("test data not there: " + nom.toStdString());
+    return fichier.readAll();
+}
+
 /// A log text from its lines.
 inline QString Texte_Log(const std::vector<QString> &lignes)
 {

@@ -77,6 +77,13 @@ TEST(Supprime_Doubles, une_reference_plus_longue_n_est_pas_un_double)
     EXPECT_EQ(Sans_Doubles({b, a}), (std::vector{b, a}));
 }
 
+TEST(Supprime_Doubles, les_blancs_autour_d_une_reference_ne_comptent_pas)
+{
+    const QString a = QSO({.ref = u" 93013"_s});
+    const QString b = QSO({.ref = u"93013"_s});
+    EXPECT_EQ(Sans_Doubles({b, a}), std::vector{a});
+}
+
 TEST(Supprime_Doubles, la_casse_ordonne_mais_ne_confond_pas)
 {
     const QString a = QSO({.ref = u"93013r"_s});

@@ -1,0 +1,45 @@
+#include "outils/Export_ADIF.h"
+
+#include "log/Ecran_Principal.h"
+#include "log/Etat_Commun.h"
+#include "log/Poste.h"
+#include "outils/ADIF_SP.h"
+#include "outils/Nom_Log_ADIF.h"
+#include "plateforme/Boites.h"
+#include "plateforme/Dossier.h"
+
+#include <array>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QString Entete(const QString &station, const QString &code)
+{
+    const std::array<QString, 6> lignes = {
+        u"Exportation du log de la station "_s + station + u' ' + code + u" au format ADIF",
+        QString(),
+        u"Vorlain_"_s + code + u" - carnet des diplômes d'activité français",
+        QString(),
+        QString(),
+        u"<eoh>"_s,
+    };
+    QString entete;
+    for (const QString &ligne : lignes)
+        entete += ligne + fin_de_ligne;
+    return entete;
+}
+
+} // namespace
+
+void Export_ADIF(Poste &poste)
+{
+    const QString &code = poste.etat.diplome;
+    const QString nom = poste.etat.indicatif + u'_' + code + u".adi";
+    QString texte = Entete(poste.ecran.I_Station(), code);
+    const Lignes_Texte lignes = poste.dossier.Lit_Lignes(Nom_Log_ADIF(poste.etat) + u".log");
+    for (const QStringView ligne : lignes)
+        texte += ADIF_SP(ligne) + fin_de_ligne;
+    poste.dossier.Remplace(nom, texte, u"Temporaire.txt"_s);
+    poste.boites.Message(u"Le fichier a été enregistré sous le nom : "_s + nom);
+}
