@@ -1,0 +1,139 @@
+#include "outils/Import_ADIF.h"
+
+#include "log/Charge_Log.h"
+#include "log/Ecran_Principal.h"
+#include "log/Etat_Commun.h"
+#include "log/Poste.h"
+#include "outils/Enregistrements_ADIF.h"
+#include "outils/Mise_De_Cote.h"
+#include "outils/Nom_Log_ADIF.h"
+#include "outils/Supprime_Doubles.h"
+#include "outils/Trie_Log.h"
+#include "plateforme/Boites.h"
+#include "plateforme/Dossier.h"
+#include "plateforme/Ecrans.h"
+#include "plateforme/Windows_1252.h"
+
+#include <utility>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// Why a file is refused before a record was read; nullopt if it is not.
+std::optional<QString> Refus_Nom(const QString &chemin, const QString &code, const Choix_Import &choix)
+{
+    if (!choix.multi && !chemin.contains(code))
+        return u"Attention le nom du fichier ne comporte pas le nom du diplome "_s + code;
+    return std::nullopt;
+}
+
+std::optional<QString> Refus_Contenu(const Lignes_Texte &lignes)
+{
+    if (!A_Des_References(lignes))
+        return u"Attention le fichier ne contient pas d'information 'SIG'"_s;
+    return std::nullopt;
+}
+
+void Refuse(Poste &poste, const QString &message)
+{
+    poste.boites.Message(message);
+    Remet_Le_Log(poste);
+    Charge_Log(poste, poste.etat.diplome);
+}
+
+/// What a file gave: the lines for the log, CR LF between them, and the failure that ended it, if any.
+struct Bilan {
+    QString lignes;
+    std::optional<Erreur_Execution> echec;
+};
+
+Bilan Lit_Fichier_ADIF(Poste &poste, const Lignes_Texte &lignes, const Choix_Import &choix, Ecran_Import &ecran)
+{
+    Bilan bilan;
+    Enregistrements_ADIF enregistrements(lignes);
+    Lignes_ADIF convertit(poste.etat.diplome, choix);
+    ecran.Avance(0, lignes.size());
+    while (const std::optional<QStringView> enregistrement = enregistrements.Suivant()) {
+        Lecture_ADIF lecture = convertit.Lit(*enregistrement);
+        for (const QStringView message : lecture.messages)
+            poste.boites.Message(message.toString());
+        if (lecture.echec) {
+            bilan.echec = std::move(lecture.echec);
+            return bilan;
+        }
+        if (lecture.ligne)
+            bilan.lignes += (bilan.lignes.isEmpty() ? QStringView() : fin_de_ligne) + *lecture.ligne;
+        ecran.Avance(enregistrements.Lues(), lignes.size());
+    }
+    return bilan;
+}
+
+/// A log that was put aside comes back whole or not at all: its .bak is known by having no log beside it.
+void Range(Poste &poste, const QString &nom, const QString &lignes, const Choix_Import &choix)
+{
+    if (!choix.ajout && !poste.dossier.S_Ouvre(nom))
+        poste.dossier.Remplace(nom, lignes.isEmpty() ? QString() : lignes + fin_de_ligne, u"Temporaire.txt"_s);
+    else if (lignes.isEmpty())
+        poste.dossier.Cree_Si_Absent(nom);
+    else
+        poste.dossier.Ajoute(nom, lignes);
+}
+
+} // namespace
+
+void Demande_Import(Poste &poste)
+{
+    // clang-format off
+    const bool oui = poste.boites.Question(
+        u"Attention les champs suivants doivent etre renseignés :\n"
+        u"\n"
+        u"<STATE> Département (2 caractères)\n"
+        u"<SIG> Réference de l'activité (4 à 6 caractères) pour un fichier ADIF d'un seul diplome Ex: 93013\n"
+        u"Le nom du fichier ADIF doit comporter le nom du diplome Ex: F9ZZY_DFCF.adi\n"
+        u"ou\n"
+        u"<SIG> Réference de l'activité (8 à 11 caractères) pour un fichier ADIF Multi diplome Ex: DMF-93013\n"
+        u"<SIG_INFO> Nom de la réference activée (30 caractères maxi)\n"
+        u"\n"
+        u"Continuer ?\n"_s);
+    // clang-format on
+    if (oui)
+        poste.ecrans.Montre(u"ADIF"_s);
+}
+
+void Importe(Poste &poste, const Choix_Import &choix, Ecran_Import &ecran)
+{
+    Retablit_Un_Import_Coupe(poste);
+    if (!choix.ajout)
+        Met_Le_Log_De_Cote(poste);
+    Import_ADIF(poste, choix, ecran);
+}
+
+void Import_ADIF(Poste &poste, const Choix_Import &choix, Ecran_Import &ecran)
+{
+    const QString code = poste.etat.diplome;
+    const QString chemin = ecran.Choisit_Fichier();
+    if (chemin.isEmpty()) {
+        poste.boites.Message(u"selectionnez un fichier ou quitter"_s);
+        Remet_Le_Log(poste);
+        return;
+    }
+    if (const std::optional<QString> refus = Refus_Nom(chemin, code, choix))
+        return Refuse(poste, *refus);
+    const Lignes_Texte lignes(Majuscules_1252(poste.dossier.Lit(chemin)));
+    if (const std::optional<QString> refus = Refus_Contenu(lignes))
+        return Refuse(poste, *refus);
+
+    const Bilan bilan = Lit_Fichier_ADIF(poste, lignes, choix, ecran);
+    if (!bilan.echec || !bilan.lignes.isEmpty())
+        Range(poste, Nom_Log_ADIF(poste.etat) + u".log", bilan.lignes, choix);
+    if (bilan.echec)
+        throw *bilan.echec;
+    if (!choix.ajout)
+        Oublie_Le_Bak(poste);
+    ecran.Ferme();
+    Charge_Log(poste, code);
+    Supprime_Doubles(poste);
+    Trie_Log(poste);
+    poste.ecran.Selectionne_Derniere();
+}
