@@ -41,5 +41,12 @@ struct Etat_Commun {
     QString categorie_liste;
     QString niveau_liste;
 
+    /// The page that Affichage and Reglements show, set by whoever opens them; empty where no host is configured.
+    QString adresse_page;
+    /// The title of Affichage.
+    QString titre_page;
+    /// The department that Carte_Detail marks: Dpt_I of Detail_Activite.
+    QString departement_carte;
+
     [[nodiscard]] bool QSO_Touche() const { return qso_affiche || qso_en_edition; }
 };
