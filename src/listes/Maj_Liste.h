@@ -1,13 +1,15 @@
 #pragma once
 
-#include "listes/Serveurs.h"
+#include <QStringView>
 
 #include <span>
+
+struct Poste;
 
 /// One entry of the menu that fetches a list.
 struct Maj {
     QStringView menu;
-    Serveur serveur;
+    QStringView serveur; ///< key of the host
     QStringView chemin; ///< on the server
     QStringView fichier;
     QStringView cle; ///< of the setting that remembers the revision, per station

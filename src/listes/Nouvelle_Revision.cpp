@@ -1,10 +1,10 @@
 #include "listes/Nouvelle_Revision.h"
 
 #include "listes/Download.h"
-#include "listes/Serveurs.h"
 #include "log/Cles.h"
 #include "log/Poste.h"
 #include "log/Reglages_Station.h"
+#include "log/Serveurs.h"
 #include "plateforme/Boites.h"
 #include "plateforme/Dossier.h"
 #include "plateforme/Tolere.h"
@@ -34,7 +34,7 @@ std::optional<QString> Derniere_Ligne(const Dossier &dossier, const QString &fic
 void Nouvelle_Revision(Poste &poste)
 {
     const QString fichier = u"New_Version.txt"_s;
-    Tolere([&] { Download(poste, Adresse(poste, Serveur::Programme, u"/Vorlain/Version.txt"), fichier); });
+    Tolere([&] { Download(poste, Adresse_Serveur(poste, u"Programme", u"/Vorlain/Version.txt"), fichier); });
     const QString presente = Lit_General(poste, cles::revision, u"V1.0.0");
     const std::optional<QString> publiee = Derniere_Ligne(poste.dossier, fichier);
     if (!publiee)

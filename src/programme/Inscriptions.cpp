@@ -3,14 +3,21 @@
 #include "consultation/ecrans/Detail_DFCF.h"
 #include "consultation/ecrans/Detail_FFF.h"
 #include "consultation/ecrans/Detail_PC.h"
+#include "consultation/ecrans/Recherche_Indicatif.h"
+#include "listes/Maj_Liste.h"
+#include "listes/Maj_Noms.h"
+#include "listes/Nouvelle_Revision.h"
 #include "listes/ecrans/Liste_References.h"
 #include "log/Etat_Commun.h"
 #include "log/Poste.h"
+#include "outils/Export_ADIF.h"
+#include "outils/Import_ADIF.h"
 #include "outils/Supprime_Doubles.h"
 #include "outils/Trie_Log.h"
 #include "outils/ecrans/Sauvegarde_Log.h"
 #include "outils/ecrans/Select_Annee.h"
 #include "programme/Registre.h"
+#include "qsl/ecrans/Multi_QSL.h"
 #include "saisie/ecrans/Station.h"
 
 using namespace Qt::StringLiterals;
@@ -39,6 +46,8 @@ void Inscrit_Ecrans(Registre &registre, Poste &poste, Vue_Saisie &vue)
     Inscrit_Ecran<Detail_FFF>(registre, poste, u"Detail_FFF"_s);
     Inscrit_Ecran<Detail_PC>(registre, poste, u"Detail_PC"_s);
     Inscrit_Ecran<Liste_References>(registre, poste, u"Liste_References"_s);
+    Inscrit_Ecran<Multi_QSL>(registre, poste, u"Multi_QSL"_s);
+    Inscrit_Ecran<Recherche_Indicatif>(registre, poste, u"Recherche_Indicatif"_s);
     Inscrit_Ecran<Sauvegarde_Log>(registre, poste, u"Sauvegarde_Log"_s);
     Inscrit_Ecran<Select_Annee>(registre, poste, u"Select_Annee"_s);
 }
@@ -48,8 +57,15 @@ void Inscrit_Commandes(Registre &registre, Poste &poste)
     const auto commande = [&](const QString &nom, void (*operation)(Poste &)) {
         registre.Inscrit_Commande(nom, [&poste, operation] { operation(poste); });
     };
+    commande(u"Import_ADIF"_s, Demande_Import);
+    commande(u"Export_ADIF"_s, Export_ADIF);
     commande(u"Trie_Log"_s, Trie_Log);
     commande(u"Supprime_Doubles"_s, Supprime_Doubles);
+    commande(u"Nouvelle_Revision"_s, Nouvelle_Revision);
+    for (const Maj &maj : Majs_Liste())
+        registre.Inscrit_Commande(maj.menu.toString(), [&poste, &maj] { Maj_Liste(poste, maj); });
+    for (const Maj_Nom &maj : Majs_Nom())
+        registre.Inscrit_Commande(maj.menu.toString(), [&poste, &maj] { Maj_Noms(poste, maj); });
     Inscrit_Annee_Challenge(registre, poste, u"Annee_Ch_DFCF"_s, u"DFCF"_s);
     Inscrit_Annee_Challenge(registre, poste, u"Annee_Ch_DMF"_s, u"DMF"_s);
 }
