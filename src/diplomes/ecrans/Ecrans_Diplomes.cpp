@@ -1,0 +1,18 @@
+#include "diplomes/ecrans/Ecrans_Diplomes.h"
+
+#include "diplomes/ecrans/Ecran_Choix.h"
+#include "diplomes/ecrans/Ecran_Fiche.h"
+#include "diplomes/ecrans/Ecran_Liste.h"
+#include "diplomes/tables/Tables.h"
+
+std::vector<Ecran_A_Inscrire> Ecrans_Diplomes(Poste &poste)
+{
+    std::vector<Ecran_A_Inscrire> ecrans;
+    for (const Fiche_Diplome *fiche : Fiches())
+        ecrans.push_back({fiche->ecran.toString(), [&poste, fiche] { return new Ecran_Fiche(poste, *fiche); }});
+    for (const Liste_Diplome *liste : Listes())
+        ecrans.push_back({liste->ecran.toString(), [&poste, liste] { return new Ecran_Liste(poste, *liste); }});
+    for (const Choix_Diplome *choix : Choix_De_Diplomes())
+        ecrans.push_back({choix->ecran.toString(), [&poste, choix] { return new Ecran_Choix(poste, *choix); }});
+    return ecrans;
+}
