@@ -4,10 +4,13 @@
 #include "consultation/ecrans/Detail_FFF.h"
 #include "consultation/ecrans/Detail_PC.h"
 #include "consultation/ecrans/Recherche_Indicatif.h"
+#include "diplomes/Ecran_Du_Diplome.h"
+#include "diplomes/ecrans/Ecrans_Diplomes.h"
 #include "listes/Maj_Liste.h"
 #include "listes/Maj_Noms.h"
 #include "listes/Nouvelle_Revision.h"
 #include "listes/ecrans/Liste_References.h"
+#include "log/Ecran_Principal.h"
 #include "log/Etat_Commun.h"
 #include "log/Poste.h"
 #include "outils/Export_ADIF.h"
@@ -42,6 +45,8 @@ void Inscrit_Annee_Challenge(Registre &registre, Poste &poste, const QString &co
 void Inscrit_Ecrans(Registre &registre, Poste &poste, Vue_Saisie &vue)
 {
     registre.Inscrit_Ecran(u"Station"_s, [&poste, &vue] { return new Station(poste, vue); });
+    for (const Ecran_A_Inscrire &ecran : Ecrans_Diplomes(poste))
+        registre.Inscrit_Ecran(ecran.nom, ecran.fabrique);
     Inscrit_Ecran<Detail_DFCF>(registre, poste, u"Detail_DFCF"_s);
     Inscrit_Ecran<Detail_FFF>(registre, poste, u"Detail_FFF"_s);
     Inscrit_Ecran<Detail_PC>(registre, poste, u"Detail_PC"_s);
@@ -62,6 +67,9 @@ void Inscrit_Commandes(Registre &registre, Poste &poste)
     commande(u"Trie_Log"_s, Trie_Log);
     commande(u"Supprime_Doubles"_s, Supprime_Doubles);
     commande(u"Nouvelle_Revision"_s, Nouvelle_Revision);
+    // The award that Dip_A shows, opened with Enter or not; a text that is no award has no screen.
+    registre.Inscrit_Commande(u"Fiche_Diplome"_s,
+                              [&poste] { poste.ecrans.Montre(Ecran_Du_Diplome(poste.ecran.Dip_A())); });
     for (const Maj &maj : Majs_Liste())
         registre.Inscrit_Commande(maj.menu.toString(), [&poste, &maj] { Maj_Liste(poste, maj); });
     for (const Maj_Nom &maj : Majs_Nom())

@@ -65,7 +65,8 @@ TEST_F(Liste_A_L_Ecran, la_liste_est_jaune_clair_en_petite_police_fixe_et_le_tit
 TEST_F(Liste_A_L_Ecran, enregistrer_ecrit_le_fichier_et_le_dit_dans_une_vraie_boite)
 {
     Boites_Qt boites;
-    Poste poste{{essai_.dossier, essai_.reglages, essai_.horloge, boites, essai_.ecrans, essai_.imprimante},
+    Poste poste{{essai_.dossier, essai_.reglages, essai_.horloge, boites, essai_.ecrans, essai_.imprimante,
+                 essai_.telechargement},
                 essai_.etat,
                 essai_.ecran};
     Ecran_Liste ecran(poste, liste_dfcf);
