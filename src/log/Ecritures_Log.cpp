@@ -8,6 +8,7 @@
 #include "log/Poste.h"
 #include "plateforme/Dossier.h"
 
+#include <algorithm>
 #include <optional>
 
 using namespace Qt::StringLiterals;
@@ -35,6 +36,17 @@ std::size_t Rang(const Lignes_Texte &lignes, QStringView ligne)
     return static_cast<std::size_t>(std::find(lignes.begin(), lignes.end(), ligne) - lignes.begin());
 }
 
+/// A line without a readable moment is neither before nor after another one: it is passed over in the log, and goes to
+/// the end itself.
+std::size_t Place_Dans_Le_Temps(const Lignes_Texte &lignes, const std::optional<QString> &moment)
+{
+    if (!moment)
+        return lignes.size();
+    const auto place =
+        std::find_if(lignes.begin(), lignes.end(), [&](QStringView ligne) { return Moment(ligne) >= moment; });
+    return static_cast<std::size_t>(place - lignes.begin());
+}
+
 void Recharge(Poste &poste, QStringView code)
 {
     Charge_Log(poste, code);
@@ -55,11 +67,7 @@ QString Texte_Supprime(const Lignes_Texte &lignes, QStringView ligne)
 
 QString Texte_Insere(const Lignes_Texte &lignes, QStringView nouvelle)
 {
-    const std::optional<QString> moment = Moment(nouvelle);
-    std::size_t place = 0;
-    while (place < lignes.size() && !(Moment(lignes[place]) && Moment(lignes[place]) >= moment))
-        ++place;
-    return Assemble(lignes, place, nouvelle, false);
+    return Assemble(lignes, Place_Dans_Le_Temps(lignes, Moment(nouvelle)), nouvelle, false);
 }
 
 void Ajoute_Ligne(Poste &poste, QStringView ligne, QStringView code)

@@ -13,7 +13,7 @@ QString Texte_Remplace(const Lignes_Texte &lignes, QStringView nouvelle, QString
 /// Without the first line equal to `ligne`; unchanged if none is.
 QString Texte_Supprime(const Lignes_Texte &lignes, QStringView ligne);
 /// `nouvelle` goes before the first line whose moment is at or after its own, else to the end. A line without a readable
-/// date and time is passed over.
+/// date and time is passed over; a `nouvelle` without one goes to the end.
 QString Texte_Insere(const Lignes_Texte &lignes, QStringView nouvelle);
 
 // The operations. A line is a whole Ligne_Log. Each ends by reloading Liste_QSO and selecting its last entry, and throws
