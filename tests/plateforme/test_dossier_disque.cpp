@@ -165,3 +165,21 @@ TEST_F(Dossier_Sur_Disque, un_nom_accentue_ou_trop_long)
     EXPECT_EQ(Echec([&] { (void)dossier.Lit(long_nom); })->Texte(),
               u"%1 (nom de fichier trop long)"_s.arg(fichiers.Chemin(long_nom)));
 }
+
+TEST_F(Dossier_Sur_Disque, existe_dit_si_un_nom_est_pris)
+{
+    EXPECT_FALSE(dossier.Existe(u"a.log"_s));
+    ASSERT_TRUE(QDir(fichiers.Chemin()).mkdir(u"a.log"_s));
+    EXPECT_TRUE(dossier.Existe(u"a.log"_s));
+    ASSERT_TRUE(QFile::link(u"nulle_part"_s, fichiers.Chemin(u"lien.log"_s)));
+    EXPECT_TRUE(dossier.Existe(u"lien.log"_s));
+}
+
+TEST_F(Dossier_Sur_Disque, des_octets_etrangers_sont_pris_tels_quels)
+{
+    const QByteArray octets("\xE2\x82\xAC\n\0suite", 10);
+    dossier.Remplace_Octets(u"liste.csv"_s, octets, u"Temporaire.txt"_s);
+    EXPECT_EQ(fichiers.Octets(u"liste.csv"_s), octets);
+    EXPECT_EQ(dossier.Octets(u"liste.csv"_s), octets);
+    EXPECT_EQ(fichiers.Fichiers(), QStringList{u"liste.csv"_s});
+}

@@ -32,3 +32,14 @@ TEST(Windows_1252, les_capitales_gardent_une_lettre_pour_une_lettre)
 {
     EXPECT_EQ(Majuscules_1252(u"chateau de l'été à Œuf-œuf, šžÿ ß ÷"), u"CHATEAU DE L'ÉTÉ À ŒUF-ŒUF, ŠŽŸ ß ÷"_s);
 }
+
+TEST(Windows_1252, un_octet_haut_est_lu_a_toute_place)
+{
+    for (int blancs = 0; blancs < 20; ++blancs) {
+        const QByteArray octets = QByteArray(blancs, 'x') + "\x80\x81" + QByteArray(blancs, 'y') + "\x9C";
+        const QString texte = QString(blancs, u'x') + u"€\x81" + QString(blancs, u'y') + u"œ";
+        EXPECT_EQ(Decode_1252(octets), texte);
+        EXPECT_EQ(Encode_1252(texte), octets);
+    }
+    EXPECT_EQ(Decode_1252({}), QString());
+}
