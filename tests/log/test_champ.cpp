@@ -15,6 +15,7 @@ TEST(Champ, une_ligne_trop_courte_rend_ce_qu_elle_a)
 {
     EXPECT_EQ(Lit(u"abc", {3, 10}), u"c");
     EXPECT_EQ(Lit(u"abc", {4, 10}), u"");
+    EXPECT_EQ(Lit(u"abc", {5, 10}), u"");
     EXPECT_EQ(Lit(u"", {1, 1}), u"");
     EXPECT_EQ(Lit(u"abc", {111, 1}), u"");
 }

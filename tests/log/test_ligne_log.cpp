@@ -58,6 +58,8 @@ TEST(Ligne_Log, seule_l_etoile_de_la_colonne_111_confirme)
     EXPECT_FALSE(Est_Confirme(QSO({.qsl = u"+"_s})));
     EXPECT_FALSE(Est_Confirme(QSO({.qsl = u"*"_s}).first(110)));
     EXPECT_FALSE(Est_Confirme(u""));
+    EXPECT_FALSE(Est_Confirme(QString(QSO({}) + u"*")));
+    EXPECT_TRUE(Est_Confirme(QString(QSO({.qsl = u"*"_s}) + u" suite")));
 }
 
 TEST(Ligne_Affichage, le_numero_est_a_droite_sur_sept_colonnes)
