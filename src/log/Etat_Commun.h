@@ -16,6 +16,8 @@ struct Etat_Commun {
     QString annee_ch_dmf = annee_absente.toString();
     /// "DFCF" or "DMF": the challenge whose year Select_Annee asks for.
     QString genre_challenge;
+    /// Where the last ADIF file of this run was chosen; empty before the first.
+    QString dossier_adif;
     QString version;
     QString historique;
 
