@@ -69,14 +69,12 @@ Bilan Lit_Fichier_ADIF(Poste &poste, const Lignes_Texte &lignes, const Choix_Imp
     return bilan;
 }
 
-/// A log that was put aside comes back whole or not at all: its .bak is known by having no log beside it.
-void Range(Poste &poste, const QString &nom, const QString &lignes, const Choix_Import &choix)
+/// A log that is absent comes into being whole or not at all: a .bak is known by having no log beside it.
+void Range(Poste &poste, const QString &nom, const QString &lignes)
 {
-    if (!choix.ajout && !poste.dossier.S_Ouvre(nom))
+    if (!poste.dossier.Existe(nom))
         poste.dossier.Remplace(nom, lignes.isEmpty() ? QString() : lignes + fin_de_ligne, u"Temporaire.txt"_s);
-    else if (lignes.isEmpty())
-        poste.dossier.Cree_Si_Absent(nom);
-    else
+    else if (!lignes.isEmpty())
         poste.dossier.Ajoute(nom, lignes);
 }
 
@@ -126,7 +124,7 @@ void Import_ADIF(Poste &poste, const Choix_Import &choix, Ecran_Import &ecran)
 
     const Bilan bilan = Lit_Fichier_ADIF(poste, lignes, choix, ecran);
     if (!bilan.echec || !bilan.lignes.isEmpty())
-        Range(poste, Nom_Log_ADIF(poste.etat) + u".log", bilan.lignes, choix);
+        Range(poste, Nom_Log_ADIF(poste.etat) + u".log", bilan.lignes);
     if (bilan.echec)
         throw *bilan.echec;
     if (!choix.ajout)

@@ -49,7 +49,7 @@ void Retablit_Un_Import_Coupe(Poste &poste)
 {
     const QString log = Log_Sans_Annee(poste.etat);
     const QString bak = Bak_Sans_Annee(poste.etat);
-    if (poste.dossier.S_Ouvre(log) || !poste.dossier.S_Ouvre(bak))
+    if (poste.dossier.Existe(log) || !poste.dossier.Existe(bak))
         return;
     Devient(poste, bak, log);
     poste.boites.Message(u"Une importation précédente a été interrompue, le log "_s + log + u" a été rétabli");
