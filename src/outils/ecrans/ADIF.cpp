@@ -1,0 +1,133 @@
+#include "outils/ecrans/ADIF.h"
+
+#include "ecrans/Nomme.h"
+#include "log/Etat_Commun.h"
+#include "log/Poste.h"
+#include "plateforme/Dossier.h"
+
+#include <QButtonGroup>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QGuiApplication>
+#include <QLabel>
+#include <QProgressBar>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QScopeGuard>
+#include <QVBoxLayout>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// Shorter work needs no bar, and a bar that moves more often only costs time.
+constexpr qint64 attente_avant_la_barre = 1000;
+constexpr qint64 entre_deux_pas = 50;
+
+/// One of the two is chosen, whatever the other options of the screen are.
+void Groupe(QWidget *ecran, QRadioButton *premier, QRadioButton *second)
+{
+    auto *groupe = new QButtonGroup(ecran);
+    groupe->addButton(premier);
+    groupe->addButton(second);
+}
+
+} // namespace
+
+ADIF::ADIF(Poste &poste)
+    : Ecran(u"ADIF"_s, u"Importer un fichier ADIF"_s),
+      poste_(poste),
+      progression_(Nomme(new QProgressBar(this), u"Progression"_s))
+{
+    auto *colonne = new QVBoxLayout(this);
+    colonne->addWidget(Nomme(new QLabel(this), u"Label2"_s, u"Importer un log "_s + poste.etat.diplome), 0,
+                       Qt::AlignHCenter);
+    colonne->addSpacing(fontMetrics().height());
+    Pose_Formats(*colonne);
+    colonne->addSpacing(fontMetrics().height());
+    Pose_Destinations(*colonne);
+    colonne->addSpacing(fontMetrics().height());
+
+    auto *importer = Nomme(new QPushButton(this), u"Importer"_s, u"Importer"_s);
+    importer->setAutoDefault(true);
+    connect(importer, &QPushButton::clicked, this, &ADIF::Lance);
+    colonne->addWidget(importer);
+
+    QSizePolicy place = progression_->sizePolicy();
+    place.setRetainSizeWhenHidden(true);
+    progression_->setSizePolicy(place);
+    progression_->hide();
+    colonne->addWidget(progression_);
+    importer->setFocus();
+    Centre(*this);
+}
+
+void ADIF::Pose_Formats(QVBoxLayout &colonne)
+{
+    auto *simple = Nomme(new QRadioButton(this), u"R_Simple"_s, u"Format de la référence : 93013"_s);
+    r_multi_ = Nomme(new QRadioButton(this), u"R_Multi"_s, u"Format de la référence : DMF-93013"_s);
+    Groupe(this, simple, r_multi_);
+    simple->setChecked(true);
+    colonne.addWidget(Nomme(new QLabel(this), u"Label1"_s, u"Pour un fichier ADIF ne comportant qu'un seul diplome"_s));
+    colonne.addWidget(simple);
+    colonne.addWidget(Nomme(new QLabel(this), u"Label3"_s, u"Pour un fichier ADIF comportant plusieurs diplomes"_s));
+    colonne.addWidget(r_multi_);
+}
+
+void ADIF::Pose_Destinations(QVBoxLayout &colonne)
+{
+    const QString &code = poste_.etat.diplome;
+    auto *remplace = Nomme(new QRadioButton(this), u"Remplace"_s, u"Remplacer le log "_s + code);
+    ajout_ = Nomme(new QRadioButton(this), u"Ajout"_s, u"Ajouter le fichier ADIF au log "_s + code);
+    Groupe(this, remplace, ajout_);
+    // The choice that destroys nothing.
+    ajout_->setChecked(true);
+    // Tab goes to the first of a group unless told; once the chosen one has the focus Qt keeps it so.
+    remplace->setFocusPolicy(Qt::ClickFocus);
+    colonne.addWidget(remplace);
+    colonne.addWidget(ajout_);
+}
+
+void ADIF::Lance()
+{
+    const auto fin = qScopeGuard([this] {
+        progression_->hide();
+        unsetCursor();
+    });
+    depuis_le_debut_.invalidate();
+    Importe(poste_, {.multi = r_multi_->isChecked(), .ajout = ajout_->isChecked()}, *this);
+}
+
+QString ADIF::Choisit_Fichier()
+{
+    QString &dossier = poste_.etat.dossier_adif;
+    const QString chemin = QFileDialog::getOpenFileName(
+        this, windowTitle(), dossier.isEmpty() ? poste_.dossier.Repertoire_Appli() : dossier, u".adi (adi) (*.adi)"_s,
+        nullptr, QFileDialog::DontUseNativeDialog | QFileDialog::HideNameFilterDetails);
+    if (!chemin.isEmpty())
+        dossier = QFileInfo(chemin).path();
+    return chemin;
+}
+
+void ADIF::Avance(std::size_t faites, std::size_t total)
+{
+    if (!depuis_le_debut_.isValid()) {
+        setCursor(Qt::WaitCursor);
+        depuis_le_debut_.start();
+        montree_a_ = attente_avant_la_barre - entre_deux_pas;
+    }
+    const qint64 maintenant = depuis_le_debut_.elapsed();
+    if (maintenant < montree_a_ + entre_deux_pas)
+        return;
+    montree_a_ = maintenant;
+    progression_->setMaximum(static_cast<int>(total));
+    progression_->setValue(static_cast<int>(faites));
+    progression_->show();
+    // Painted at once: no event is handled while the import runs.
+    progression_->repaint();
+}
+
+void ADIF::Ferme()
+{
+    close();
+}
