@@ -8,12 +8,14 @@
 
 namespace {
 
-std::optional<double> Avancement(const Niveau_Diplome &niveau, Comptes comptes)
+/// The part done of the condition that is furthest from being met. It is whole only where the tier is reached.
+std::optional<double> Avancement(const Niveau_Diplome &niveau, Comptes comptes, Verdict verdict)
 {
+    const double au_plus = verdict == Verdict::Atteint ? 1 : 0.99;
     std::optional<double> avancement;
     const auto mesure = [&](int compte, int seuil) {
         if (seuil > 0)
-            avancement = std::min(avancement.value_or(1), std::min(1., double(compte) / seuil));
+            avancement = std::min(avancement.value_or(au_plus), double(compte) / seuil);
     };
     mesure(comptes.n, niveau.seuil_n);
     mesure(comptes.d, niveau.seuil_d);
@@ -88,7 +90,7 @@ Etat_Fiche Evalue_Fiche(const Fiche_Diplome &fiche, std::span<const Comptes> com
         resultat.niveaux.push_back({.etat = Status(niveau, verdict, valeurs),
                                     .detail = Detail(niveau, verdict, valeurs),
                                     .bouton = {.nom = niveau.bouton.toString()},
-                                    .avancement = Avancement(niveau, siens)});
+                                    .avancement = Avancement(niveau, siens, verdict)});
         if (verdict == Verdict::Atteint)
             Ouvre_Boutons(niveau, ouverts);
     }

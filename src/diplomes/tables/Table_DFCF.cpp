@@ -23,6 +23,7 @@ constexpr std::array<Niveau_Diplome, 5> niveaux = {{
      .seuil_n = 1500, .seuil_d = 90,
      .detail = {Prefixe(u"Label19"), Nombre_N(u"Label8"), Fixe(u"Label9", u"Chateaux confirmés et"), Nombre_D(u"Label10"), Fixe(u"Label11", u"départements confirmés")},
      .bouton = u"HF_Honneur", .choix = {{.bande_liste = u"HF", .code_categorie = u"Honneur"}}},
+    // The two trophies open HF_Base beside HF_Trophe, and HF_Honneur is left alone.
     {.etat = u"Label12", .attente = u"Vous ne pouvez pas encore obtenir le trophé DFCF",
      .atteint = u"Bravo vous pouvez obtenir le Trophé DFCF",
      .seuil_n = 3000, .seuil_d = 90,
@@ -32,6 +33,7 @@ constexpr std::array<Niveau_Diplome, 5> niveaux = {{
      .atteint = u"Bravo vous pouvez obtenir le Super Trophé DFCF",
      .seuil_n = 5000, .seuil_d = 90,
      .detail = {Prefixe(u"Label3"), Nombre_N(u"Label26"), Fixe(u"Label24", u"Chateaux confirmés et"), Nombre_D(u"Label27"), Fixe(u"Label25", u"départements confirmés")},
+     // Its own button is never enabled: this tier is claimed with the list of the trophy.
      .bouton = u"Command1", .ouvre = {u"HF_Base", u"HF_Trophe"}},
     {.etat = u"Label15", .attente = u"Vous ne pouvez pas encore obtenir le diplome DFCF Excellence",
      .atteint = u"Bravo vous pouvez obtenir le Diplome DFCF Excellence",

@@ -4,8 +4,11 @@
 
 namespace {
 
-constexpr std::array fiches = {&fiche_dfcf};
-constexpr std::array listes = {&liste_dfcf};
+constexpr std::array fiches = {&fiche_daf, &fiche_dcf, &fiche_dcpf, &fiche_dfcf, &fiche_dff, &fiche_difi, &fiche_difm,
+                               &fiche_dlf, &fiche_dmf, &fiche_dplf, &fiche_fff,  &fiche_pc,  &fiche_wlf};
+constexpr std::array listes = {&liste_daf, &liste_dcf, &liste_dcpf, &liste_dfcf, &liste_dff, &liste_difi, &liste_difm,
+                               &liste_dlf, &liste_dmf, &liste_dplf, &liste_fff,  &liste_pc,  &liste_wlf};
+constexpr std::array choix = {&choix_daf, &choix_dcpf, &choix_dff};
 
 } // namespace
 
@@ -21,5 +24,5 @@ std::span<const Liste_Diplome *const> Listes()
 
 std::span<const Choix_Diplome *const> Choix_De_Diplomes()
 {
-    return {};
+    return choix;
 }

@@ -8,9 +8,37 @@
 
 // The awards as data, each in its own Table_<code>.cpp.
 
+extern const Fiche_Diplome fiche_daf;
+extern const Fiche_Diplome fiche_dcf;
+extern const Fiche_Diplome fiche_dcpf;
 extern const Fiche_Diplome fiche_dfcf;
+extern const Fiche_Diplome fiche_dff;
+extern const Fiche_Diplome fiche_difi;
+extern const Fiche_Diplome fiche_difm;
+extern const Fiche_Diplome fiche_dlf;
+extern const Fiche_Diplome fiche_dmf;
+extern const Fiche_Diplome fiche_dplf;
+extern const Fiche_Diplome fiche_fff;
+extern const Fiche_Diplome fiche_pc;
+extern const Fiche_Diplome fiche_wlf;
 
+extern const Liste_Diplome liste_daf;
+extern const Liste_Diplome liste_dcf;
+extern const Liste_Diplome liste_dcpf;
 extern const Liste_Diplome liste_dfcf;
+extern const Liste_Diplome liste_dff;
+extern const Liste_Diplome liste_difi;
+extern const Liste_Diplome liste_difm;
+extern const Liste_Diplome liste_dlf;
+extern const Liste_Diplome liste_dmf;
+extern const Liste_Diplome liste_dplf;
+extern const Liste_Diplome liste_fff;
+extern const Liste_Diplome liste_pc;
+extern const Liste_Diplome liste_wlf;
+
+extern const Choix_Diplome choix_daf;
+extern const Choix_Diplome choix_dcpf;
+extern const Choix_Diplome choix_dff;
 
 /// Every sheet, every list and every choice screen that the frames show.
 std::span<const Fiche_Diplome *const> Fiches();
