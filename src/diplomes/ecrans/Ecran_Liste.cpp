@@ -30,13 +30,13 @@ Liste_Fixe *Rangs(const QString &nom, QLabel *colonnes)
     return rangs;
 }
 
-/// Room for the header and for every row.
+/// Room for the header and for every row, and a column to spare, so that no bar is needed sideways.
 int Largeur(const Etat_Liste &etat)
 {
     qsizetype largeur = etat.colonnes.size();
     for (const QString &rang : etat.rangs)
         largeur = std::max(largeur, rang.size());
-    return static_cast<int>(largeur);
+    return static_cast<int>(largeur + 1);
 }
 
 } // namespace
