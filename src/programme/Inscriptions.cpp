@@ -1,5 +1,8 @@
 #include "programme/Inscriptions.h"
 
+#include "consultation/ecrans/Aff_Contacte.h"
+#include "consultation/ecrans/Affiche_Toutes_Activites.h"
+#include "consultation/ecrans/Detail_Activite.h"
 #include "consultation/ecrans/Detail_DFCF.h"
 #include "consultation/ecrans/Detail_FFF.h"
 #include "consultation/ecrans/Detail_PC.h"
@@ -17,6 +20,7 @@
 #include "outils/Import_ADIF.h"
 #include "outils/Supprime_Doubles.h"
 #include "outils/Trie_Log.h"
+#include "outils/ecrans/ADIF.h"
 #include "outils/ecrans/Sauvegarde_Log.h"
 #include "outils/ecrans/Select_Annee.h"
 #include "programme/Registre.h"
@@ -47,6 +51,10 @@ void Inscrit_Ecrans(Registre &registre, Poste &poste, Vue_Saisie &vue)
     registre.Inscrit_Ecran(u"Station"_s, [&poste, &vue] { return new Station(poste, vue); });
     for (const Ecran_A_Inscrire &ecran : Ecrans_Diplomes(poste))
         registre.Inscrit_Ecran(ecran.nom, ecran.fabrique);
+    Inscrit_Ecran<ADIF>(registre, poste, u"ADIF"_s);
+    Inscrit_Ecran<Aff_Contacte>(registre, poste, u"Aff_Contacte"_s);
+    Inscrit_Ecran<Affiche_Toutes_Activites>(registre, poste, u"Affiche_Toutes_Activites"_s);
+    Inscrit_Ecran<Detail_Activite>(registre, poste, u"Detail_Activite"_s);
     Inscrit_Ecran<Detail_DFCF>(registre, poste, u"Detail_DFCF"_s);
     Inscrit_Ecran<Detail_FFF>(registre, poste, u"Detail_FFF"_s);
     Inscrit_Ecran<Detail_PC>(registre, poste, u"Detail_PC"_s);
