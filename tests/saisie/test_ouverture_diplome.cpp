@@ -1,0 +1,130 @@
+#include "faux/Echec.h"
+#include "faux/Impression.h"
+#include "faux/QSO_Essai.h"
+#include "faux/Vue_Fausse.h"
+#include "saisie/Chaine.h"
+
+#include <gtest/gtest.h>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+using enum Controle;
+
+class Diplome_Choisi : public ::testing::Test {
+protected:
+    Diplome_Choisi()
+    {
+        for (const QStringView code : codes_diplome)
+            essai.fichiers.Pose(u"F9ZZY_"_s + code + (Est_Challenge(code) ? u"_2026.log" : u".log"), "");
+        essai.reglages.vorlain[{u"Setup F9ZZY"_s, u"Annee Challenge DFCF"_s}] = u"2026"_s;
+        essai.reglages.vorlain[{u"Setup F9ZZY"_s, u"Annee Challenge DMF"_s}] = u"2026"_s;
+        essai.reglages.vorlain[{u"Setup F9ZZY"_s, u"Revision_Liste_WFF"_s}] = u"Rev 017 du 01/01/26"_s;
+    }
+
+    Poste_Saisie essai;
+    Vue_Fausse &vue = essai.vue;
+
+    void Ouvre(QStringView code)
+    {
+        vue.Ecrit(Dip_A, code.toString());
+        Entree(essai.poste, vue, Dip_A);
+    }
+    [[nodiscard]] QString Reglage(const QString &cle) const
+    {
+        return essai.reglages.Lit(u"Setup F9ZZY"_s, cle, u"(rien)"_s);
+    }
+};
+
+} // namespace
+
+TEST_F(Diplome_Choisi, chaque_code_s_ouvre_sur_la_bande_et_se_retient)
+{
+    for (std::size_t rang = 0; rang < codes_diplome.size(); ++rang) {
+        const QStringView code = codes_diplome[rang];
+        SCOPED_TRACE(code.toString().toStdString());
+        Ouvre(code);
+        EXPECT_EQ(essai.etat.diplome, code.toString());
+        EXPECT_EQ(vue.Texte(Controle::Type_Ref), Habillage_De(code)->type_ref.toString());
+        EXPECT_EQ(vue.Texte(Detail), Habillage_De(code)->detail.toString());
+        EXPECT_EQ(vue.Texte(Label1), Habillage_De(code)->label1.toString());
+        const QString annee = Est_Challenge(code) ? u"2026"_s : QString();
+        EXPECT_EQ(vue.Texte(Frame3), Habillage_De(code)->frame3.toString() + annee);
+        EXPECT_EQ(vue.focus, Bande_A);
+        EXPECT_TRUE(vue.Est_Actif(Bande_A));
+        EXPECT_TRUE(vue.Est_Actif(Ind_A));
+        EXPECT_EQ(Reglage(u"Diplome Utilise"_s), QString::number(rang));
+        EXPECT_EQ(essai.Messages().size(), Est_Challenge(code) ? 1U : 0U);
+    }
+    EXPECT_TRUE(essai.ecrans.modaux.empty());
+}
+
+TEST_F(Diplome_Choisi, le_log_s_affiche_et_l_ecran_est_au_repos)
+{
+    essai.fichiers.Pose(u"F9ZZY_DFCF.log"_s, QSO({.ref = u"77001"_s}).toLatin1() + "\r\n");
+    Ouvre(u"DFCF");
+    EXPECT_EQ(vue.liste.size(), 1U);
+    EXPECT_EQ(vue.selection, Ligne_Affichage(1, vue.liste[0]));
+    EXPECT_EQ(essai.etat.ligne_selectionnee, vue.selection);
+    EXPECT_EQ(vue.Texte(Ref_A), u""_s);
+    EXPECT_FALSE(essai.etat.qso_affiche);
+    EXPECT_EQ(vue.Texte(Mode_Aff), u"Saisie QSO"_s);
+    EXPECT_FALSE(vue.Est_Actif(Annule_Saisie));
+}
+
+TEST_F(Diplome_Choisi, une_modification_en_cours_ne_retient_pas_le_code)
+{
+    essai.reglages.vorlain[{u"Setup F9ZZY"_s, u"Diplome Utilise"_s}] = u"6"_s;
+    essai.etat.qso_affiche = essai.etat.qso_en_edition = true;
+    Ouvre(u"DMF");
+    EXPECT_EQ(Reglage(u"Diplome Utilise"_s), u"6"_s);
+    EXPECT_TRUE(essai.etat.qso_en_edition);
+    EXPECT_EQ(essai.etat.diplome, u"DMF"_s);
+}
+
+TEST_F(Diplome_Choisi, une_autre_touche_retient_le_code_et_laisse_le_diplome)
+{
+    Ouvre(u"DFCF");
+    vue.Ecrit(Dip_A, u"DMF"_s);
+    Apres_Touche(essai.poste, vue, Dip_A);
+    EXPECT_EQ(Reglage(u"Diplome Utilise"_s), u"11"_s);
+    EXPECT_EQ(essai.etat.diplome, u"DFCF"_s);
+    EXPECT_EQ(vue.Texte(Frame3), u"Diplome des Forts et Chateaux de France"_s);
+}
+
+TEST_F(Diplome_Choisi, la_revision_de_la_liste_fff_se_lit_au_cinquieme_caractere)
+{
+    for (const auto &[revision, prevenu] :
+         {std::pair(u"Rev 016 du 01/01/12"_s, true), std::pair(u"Rev 017 du 01/01/12"_s, false),
+          std::pair(u"Rev 120 du 01/01/12"_s, false), std::pair(u"Rev 000 du 01/01/12"_s, true),
+          std::pair(u"n'importe quoi"_s, true), std::pair(u""_s, true)}) {
+        essai.reglages.vorlain[{u"Setup F9ZZY"_s, u"Revision_Liste_WFF"_s}] = revision;
+        Ouvre(u"FFF");
+        EXPECT_EQ(!essai.Messages().empty(), prevenu) << revision.toStdString();
+        EXPECT_EQ(essai.etat.diplome, u"FFF"_s);
+    }
+}
+
+TEST_F(Diplome_Choisi, un_challenge_sans_annee_demande_la_sienne)
+{
+    essai.reglages.vorlain.erase({u"Setup F9ZZY"_s, u"Annee Challenge DMF"_s});
+    essai.ecrans.pendant_modal = [&](const QString &) {
+        EXPECT_EQ(essai.etat.genre_challenge, u"DMF"_s);
+        essai.etat.annee_ch_dmf = u"2026"_s;
+    };
+    Ouvre(u"Ch_DMF");
+    EXPECT_EQ(essai.ecrans.modaux, std::vector<QString>{u"Select_Annee"_s});
+    EXPECT_EQ(vue.Texte(Frame3), u"Challenge DMF année 2026"_s);
+    EXPECT_EQ(essai.Messages(), std::vector<QString>{u" Lettres qui doivent suivent la référence :\n\n"
+                                                     u" - A - Activation contactée et validée\n"
+                                                     u" - R - Réactivation contactée et validée\n"
+                                                     u" - C - Activeur de Moulin validé\n"
+                                                     u" - B - Activeur de Moulin réactivé et validé\n"_s});
+}
+
+TEST_F(Diplome_Choisi, un_log_absent_est_dit)
+{
+    QFile::remove(essai.fichiers.Chemin(u"F9ZZY_DMF.log"_s));
+    EXPECT_EQ(Echec([&] { Ouvre(u"DMF"); })->La_Cause(), Cause::Fichier_Introuvable);
+}

@@ -1,0 +1,367 @@
+#include "faux/Donnees_Essai.h"
+#include "faux/Echec.h"
+#include "faux/Impression.h"
+#include "faux/QSO_Essai.h"
+#include "faux/Vue_Fausse.h"
+#include "saisie/Chaine.h"
+#include "saisie/Options.h"
+
+#include <gtest/gtest.h>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+using enum Controle;
+
+const QString premiere = QSO({.ind = u"F5AAA"_s, .dpt = u"77"_s, .ref = u"77001"_s, .date = u"12/05/07"_s});
+const QString seconde =
+    QSO({.ind = u"F5BBB"_s, .dpt = u"05"_s, .ref = u"05012"_s, .date = u"14/05/07"_s, .mode = u"CW"_s});
+const QString troisieme = QSO({.ind = u"F5CCC"_s, .dpt = u"2A"_s, .ref = u"2A003"_s, .date = u"16/05/07"_s});
+
+class Validation_QSO : public ::testing::Test {
+protected:
+    Validation_QSO() { essai.Ouvre_Log(u"DFCF"_s, Octets({premiere, seconde, troisieme})); }
+
+    Poste_Saisie essai;
+    Vue_Fausse &vue = essai.vue;
+
+    static QByteArray Octets(const std::vector<QString> &lignes)
+    {
+        QByteArray octets;
+        for (const QString &ligne : lignes)
+            octets += ligne.toLatin1() + "\r\n";
+        return octets;
+    }
+    [[nodiscard]] QByteArray Log() const { return essai.fichiers.Octets(u"F9ZZY_DFCF.log"_s); }
+    [[nodiscard]] QString Entree_Liste(std::size_t rang) const { return Ligne_Affichage(rang + 1, vue.liste[rang]); }
+
+    /// Fields as the chain leaves them at Valide_A.
+    void Remplit(const Champs_QSO &champs)
+    {
+        vue.Ecrit(Ind_A, champs.ind);
+        vue.Ecrit(Dpt_A, champs.dpt);
+        vue.Ecrit(Prenom_A, champs.prenom);
+        vue.Ecrit(Ref_A, champs.ref);
+        vue.Ecrit(Date_A, champs.date);
+        vue.Ecrit(Heure_A, champs.heure);
+        vue.Ecrit(Nom_A, champs.nom);
+        vue.Active(Valide_A, true);
+        vue.Donne_Focus(Valide_A);
+    }
+    void Remplit_Nouveau()
+    {
+        Remplit({.ind = u"F8NEW"_s,
+                 .dpt = u"63"_s,
+                 .prenom = u"LÉA"_s,
+                 .ref = u"63087"_s,
+                 .date = u"13/05/07"_s,
+                 .heure = u"14:48"_s,
+                 .nom = u"C. DE TOURNOËL"_s});
+    }
+    [[nodiscard]] static QString Nouveau()
+    {
+        return QSO({.ind = u"F8NEW"_s,
+                    .dpt = u"63"_s,
+                    .prenom = u"LÉA"_s,
+                    .ref = u"63087"_s,
+                    .date = u"13/05/07"_s,
+                    .nom = u"C. DE TOURNOËL"_s});
+    }
+    void Modifie(std::size_t rang)
+    {
+        Clic_Liste(essai.poste, vue, Entree_Liste(rang));
+        Double_Clic_Liste(essai.poste, vue, Entree_Liste(rang));
+    }
+    void Valide() { Valide_QSO(essai.poste, vue); }
+    void Attend_Refus(Controle champ, const QString &message)
+    {
+        const QByteArray avant = Log();
+        const QString texte = vue.Texte(champ);
+        Valide();
+        EXPECT_EQ(essai.Messages(), std::vector<QString>{message});
+        EXPECT_TRUE(essai.boites.questions.empty());
+        EXPECT_EQ(vue.focus, champ);
+        EXPECT_EQ(vue.Texte(champ), texte);
+        EXPECT_EQ(Log(), avant);
+        EXPECT_EQ(vue.Texte(Ind_A).isEmpty(), false);
+    }
+    /// The entry waits for the next QSO.
+    void Attend_Le_Suivant()
+    {
+        for (const Controle champ : {Ind_A, Dpt_A, Prenom_A, Ref_A, Date_A, Heure_A, Nom_A})
+            EXPECT_EQ(vue.Texte(champ), u""_s);
+        for (const Controle champ :
+             {Dpt_A, Prenom_A, Ref_A, Date_A, Heure_A, Mode_A, RSTR_A, RSTE_A, Nom_A, QSL_A, Valide_A})
+            EXPECT_FALSE(vue.Est_Actif(champ)) << static_cast<int>(champ);
+        EXPECT_TRUE(vue.Est_Actif(Bande_A));
+        EXPECT_EQ(vue.focus, Ind_A);
+        EXPECT_FALSE(vue.QSL_Coche());
+        EXPECT_EQ(vue.Texte(Mode_Aff), u"Saisie QSO"_s);
+        EXPECT_FALSE(essai.etat.qso_affiche);
+        EXPECT_FALSE(essai.etat.qso_en_edition);
+    }
+};
+
+using Refus_A_La_Validation = Validation_QSO;
+using Prenom_Retenu = Validation_QSO;
+
+} // namespace
+
+TEST_F(Validation_QSO, en_temps_reel_le_qso_va_a_la_fin_et_la_liste_le_montre)
+{
+    Remplit_Nouveau();
+    Valide();
+    EXPECT_EQ(essai.boites.questions, std::vector<QString>{u"Voulez vous enregistrer ces données ?"_s});
+    EXPECT_EQ(Log(), Octets({premiere, seconde, troisieme, Nouveau()}));
+    EXPECT_EQ(vue.selection, Ligne_Affichage(4, Nouveau()));
+    EXPECT_EQ(essai.etat.ligne_selectionnee, vue.selection);
+    Attend_Le_Suivant();
+    // The click of the selection has opened the deletion of the QSO just stored.
+    EXPECT_TRUE(vue.Est_Actif(Annule_Saisie));
+}
+
+TEST_F(Validation_QSO, non_ne_fait_rien)
+{
+    Remplit_Nouveau();
+    essai.boites.reponses = {false};
+    Valide();
+    EXPECT_EQ(Log(), Octets({premiere, seconde, troisieme}));
+    EXPECT_EQ(vue.Texte(Ref_A), u"63087"_s);
+    EXPECT_EQ(vue.focus, Valide_A);
+    EXPECT_TRUE(vue.Est_Actif(Valide_A));
+}
+
+TEST_F(Validation_QSO, le_qso_va_au_log_de_dip_a)
+{
+    essai.fichiers.Pose(u"F9ZZY_DMF.log"_s, "");
+    Remplit_Nouveau();
+    vue.Ecrit(Dip_A, u"DMF"_s);
+    Valide();
+    EXPECT_EQ(Log(), Octets({premiere, seconde, troisieme}));
+    EXPECT_EQ(essai.fichiers.Octets(u"F9ZZY_DMF.log"_s), Octets({Nouveau()}));
+}
+
+TEST_F(Validation_QSO, une_carte_recue_met_l_etoile)
+{
+    Remplit_Nouveau();
+    vue.Coche_QSL(true);
+    Valide();
+    EXPECT_TRUE(Est_Confirme(vue.liste[3]));
+}
+
+TEST_F(Validation_QSO, un_nom_de_plus_de_trente_est_coupe)
+{
+    Remplit_Nouveau();
+    vue.Ecrit(Nom_A, QString(30, u'X') + u"YYYYYYYYYYYYYYYYYYYY");
+    Valide();
+    EXPECT_EQ(Lit(vue.liste[3], colonnes_log::Nom), QString(30, u'X'));
+    EXPECT_EQ(vue.liste[3].size(), 111);
+}
+
+TEST_F(Validation_QSO, une_modification_garde_la_place_et_selectionne_la_derniere)
+{
+    Modifie(1);
+    EXPECT_EQ(vue.Texte(Ref_A), u"05012"_s);
+    vue.Ecrit(Nom_A, u"C. NOUVEAU"_s);
+    Valide();
+    EXPECT_EQ(Log(), Octets({premiere,
+                             QSO({.ind = u"F5BBB"_s,
+                                  .dpt = u"05"_s,
+                                  .ref = u"05012"_s,
+                                  .date = u"14/05/07"_s,
+                                  .mode = u"CW"_s,
+                                  .nom = u"C. NOUVEAU"_s}),
+                             troisieme}));
+    EXPECT_EQ(vue.selection, Ligne_Affichage(3, troisieme));
+    Attend_Le_Suivant();
+}
+
+TEST_F(Validation_QSO, un_clic_pendant_une_modification_change_la_cible)
+{
+    Modifie(1);
+    Clic_Liste(essai.poste, vue, Entree_Liste(0));
+    EXPECT_EQ(vue.Texte(Ref_A), u"05012"_s);
+    EXPECT_EQ(vue.Texte(Mode_Aff), u"Affichage QSO"_s);
+    Valide();
+    EXPECT_EQ(Log(), Octets({seconde, seconde, troisieme}));
+}
+
+TEST_F(Validation_QSO, un_qso_disparu_entre_temps_est_garde_a_la_fin)
+{
+    Modifie(1);
+    essai.fichiers.Pose(u"F9ZZY_DFCF.log"_s, Octets({premiere}));
+    Valide();
+    EXPECT_EQ(Log(), Octets({premiere, seconde}));
+}
+
+TEST_F(Validation_QSO, une_modification_d_un_indicatif_de_douze_caracteres_en_perd_deux)
+{
+    const QString ligne = QSO({.ind = u"TM5CHATEAUX1"_s, .dpt = u"77"_s, .ref = u"77001"_s});
+    essai.Ouvre_Log(u"DFCF"_s, Octets({ligne}));
+    Modifie(0);
+    EXPECT_EQ(vue.Texte(Ind_A), u"TM5CHATEAU"_s);
+    Valide();
+    EXPECT_EQ(Log(), Octets({QSO({.ind = u"TM5CHATEAU"_s, .dpt = u"77"_s, .ref = u"77001"_s})}));
+}
+
+TEST_F(Validation_QSO, en_differe_le_qso_va_a_sa_place)
+{
+    essai.etat.saisie_differee = true;
+    Remplit_Nouveau();
+    Valide();
+    EXPECT_EQ(Log(), Octets({premiere, Nouveau(), seconde, troisieme}));
+    EXPECT_EQ(vue.selection, Ligne_Affichage(4, troisieme));
+    Attend_Le_Suivant();
+}
+
+TEST_F(Validation_QSO, apres_une_insertion_les_suivants_s_inserent_aussi)
+{
+    Choisit_Saisie(essai.poste, vue, false);
+    Commence_Insertion(essai.poste, vue);
+    Remplit_Nouveau();
+    Valide();
+    EXPECT_TRUE(essai.etat.saisie_differee);
+    EXPECT_EQ(vue.Texte(Label15), u"en temps reél"_s);
+    // A repeat passes now, and the QSO goes to its place in time again.
+    vue.Active(Ref_A, true);
+    vue.Ecrit(Ref_A, u"77001"_s);
+    essai.fichiers.Pose(u"Liste_DFCF.csv"_s, "");
+    Entree(essai.poste, vue, Ref_A);
+    EXPECT_TRUE(essai.Messages().empty());
+    EXPECT_EQ(vue.focus, Dpt_A);
+    Remplit_Nouveau();
+    Valide();
+    EXPECT_EQ(Log(), Octets({premiere, Nouveau(), Nouveau(), seconde, troisieme}));
+    Choisit_Saisie(essai.poste, vue, false);
+    Remplit_Nouveau();
+    Valide();
+    EXPECT_EQ(Log(), Octets({premiere, Nouveau(), Nouveau(), seconde, troisieme, Nouveau()}));
+}
+
+TEST_F(Validation_QSO, bande_et_mode_reviennent_aux_retenus)
+{
+    Modifie(1);
+    vue.Ecrit(Bande_A, u"144 Mhz"_s);
+    Valide();
+    EXPECT_EQ(vue.Texte(Bande_A), u"14 Mhz"_s);
+    EXPECT_EQ(vue.Texte(Mode_A), u"SSB"_s);
+}
+
+TEST_F(Validation_QSO, une_bande_libre_revient_vide)
+{
+    vue.Ecrit(Bande_A, u"7.144"_s);
+    Entree(essai.poste, vue, Bande_A);
+    Remplit_Nouveau();
+    Valide();
+    EXPECT_EQ(Lit_Rogne(vue.liste[3], colonnes_log::Bande), u"7.144");
+    EXPECT_EQ(vue.Texte(Bande_A), u""_s);
+}
+
+TEST_F(Validation_QSO, un_log_absent_ne_vide_pas_les_champs)
+{
+    Modifie(1);
+    QFile::remove(essai.fichiers.Chemin(u"F9ZZY_DFCF.log"_s));
+    EXPECT_EQ(Echec([&] { Valide(); })->La_Cause(), Cause::Fichier_Introuvable);
+    EXPECT_EQ(vue.Texte(Ref_A), u"05012"_s);
+}
+
+TEST_F(Refus_A_La_Validation, un_champ_trop_long_reprend_le_focus_avant_la_question)
+{
+    const QString long_prenom = u"JEAN-CHRISTOPHE-MARIE"_s;
+    for (const auto &[champ, texte, message] : std::vector<std::tuple<Controle, QString, QString>>{
+             {Ind_A, u"F5ABC/P/MM/9Z"_s, u"12 caracteres maxi pour l'indicatif"_s},
+             {Prenom_A, long_prenom, u"15 caracteres maxi pour le prénom"_s},
+             {Ref_A, u"77-001-0001"_s, u"10 caracteres maxi pour la reference (pas de tiret)"_s},
+             {Dpt_A, u"771"_s, u"2 caracteres pour le Departement ex : 05 ou 77"_s},
+             {Date_A, u""_s, u"Entrez une date"_s},
+             {Date_A, u"12/05/2007"_s, u"8 caracteres pour la date ex: 12/05/07"_s},
+             {Heure_A, u""_s, u"Entrez une Heure"_s},
+             {Heure_A, u"1448"_s, u"5 caractereslour l'heure ex 12:48"_s},
+             {Mode_A, u"JT65"_s, u"3 caracteres maxi pour le Mode"_s},
+             {Bande_A, u"14.255 Mhz"_s, u"7 caracteres maxi pour la bande"_s},
+             {RSTR_A, u"5999"_s, u"3 caracteres maxi pour le Report"_s},
+             {RSTE_A, u"5999"_s, u"3 caracteres maxi pour le Report"_s}}) {
+        SCOPED_TRACE(message.toStdString());
+        Modifie(1);
+        vue.Ecrit(champ, texte);
+        Attend_Refus(champ, message);
+        // The edit goes on where it was.
+        EXPECT_TRUE(essai.etat.qso_en_edition);
+        EXPECT_TRUE(vue.Est_Actif(Valide_A));
+        vue.Efface();
+    }
+}
+
+TEST_F(Refus_A_La_Validation, un_prenom_juste_assez_court_passe)
+{
+    Remplit_Nouveau();
+    vue.Ecrit(Prenom_A, QString(15, u'X'));
+    Valide();
+    EXPECT_EQ(vue.liste[3].size(), 111);
+}
+
+TEST_F(Refus_A_La_Validation, un_prenom_trop_long_en_saisie_ne_va_ni_au_log_ni_a_la_liste)
+{
+    Remplit_Nouveau();
+    essai.etat.prenom_nouveau = true;
+    vue.Ecrit(Prenom_A, QString(16, u'X'));
+    Attend_Refus(Prenom_A, u"15 caracteres maxi pour le prénom"_s);
+    EXPECT_TRUE(vue.Est_Actif(Prenom_A));
+    EXPECT_EQ(essai.fichiers.Octets(u"Liste_Prenom.txt"_s), "");
+}
+
+TEST_F(Refus_A_La_Validation, des_champs_courts_ou_vides_passent_apres_une_modification)
+{
+    Modifie(1);
+    for (const Controle champ : {Dpt_A, Prenom_A, Ref_A, RSTR_A, Nom_A})
+        vue.Ecrit(champ, QString());
+    Valide();
+    EXPECT_EQ(vue.liste[1].size(), 111);
+    EXPECT_EQ(Lit_Rogne(vue.liste[1], colonnes_log::Ref), u"");
+}
+
+TEST_F(Refus_A_La_Validation, un_texte_de_dip_a_qui_n_est_pas_un_code_demande_un_diplome)
+{
+    for (const QString &texte : {u"XYZ"_s, u""_s}) {
+        Remplit_Nouveau();
+        vue.Ecrit(Dip_A, texte);
+        Attend_Refus(Dip_A, u"Selectionnez un diplome"_s);
+    }
+    EXPECT_EQ(essai.fichiers.Fichiers(), (QStringList{u"F9ZZY_DFCF.log"_s, u"Liste_Prenom.txt"_s}));
+}
+
+TEST_F(Prenom_Retenu, un_prenom_nouveau_va_a_sa_liste_en_capitales)
+{
+    Remplit_Nouveau();
+    essai.etat.prenom_nouveau = true;
+    vue.Ecrit(Prenom_A, u"Léa"_s);
+    Valide();
+    EXPECT_EQ(essai.fichiers.Octets(u"Liste_Prenom.txt"_s), "F8NEW        63 L\xC9"
+                                                            "A\r\n");
+    EXPECT_EQ(Lit_Rogne(vue.liste[3], colonnes_log::Prenom), u"LÉA");
+    // Nothing clears the flag at a commit.
+    EXPECT_TRUE(essai.etat.prenom_nouveau);
+}
+
+TEST_F(Prenom_Retenu, un_prenom_connu_laisse_sa_liste)
+{
+    essai.fichiers.Pose(u"Liste_Prenom.txt"_s, "F8NEW        63 ANNE\r\n");
+    vue.Active(Ind_A, true);
+    vue.Ecrit(Prenom_A, u"LÉA"_s);
+    vue.Ecrit(Ind_A, u"F8NEW"_s);
+    Entree(essai.poste, vue, Ind_A);
+    Remplit_Nouveau();
+    Valide();
+    EXPECT_EQ(essai.fichiers.Octets(u"Liste_Prenom.txt"_s), "F8NEW        63 ANNE\r\n");
+    EXPECT_EQ(Lit_Rogne(vue.liste[3], colonnes_log::Prenom), u"LÉA");
+}
+
+TEST_F(Prenom_Retenu, non_ne_retient_pas_le_prenom)
+{
+    Remplit_Nouveau();
+    essai.etat.prenom_nouveau = true;
+    essai.boites.reponses = {false};
+    Valide();
+    EXPECT_EQ(essai.fichiers.Octets(u"Liste_Prenom.txt"_s), "");
+}
