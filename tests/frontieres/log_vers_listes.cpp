@@ -1,0 +1,2 @@
+// A library does not see the one that is built on it.
+#include "listes/Recherches_Liste.h"

@@ -1,0 +1,2 @@
+// A rule knows no screen.
+#include "saisie/ecrans/Main.h"

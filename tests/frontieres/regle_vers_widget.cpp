@@ -1,0 +1,2 @@
+// A rule knows no widget, not even Qt's.
+#include <QWidget>
