@@ -58,12 +58,22 @@ std::string Comble(const std::string &texte, long largeur)
     return texte + Blancs(largeur - static_cast<long>(texte.size()));
 }
 
+/// The capital of a letter of Windows-1252.
+char Capitale(char lettre)
+{
+    const auto numero = static_cast<unsigned char>(lettre);
+    if ((numero >= 'a' && numero <= 'z') || (numero >= 0xE0 && numero <= 0xFE && numero != 0xF7))
+        return static_cast<char>(numero - 0x20);
+    if (numero == 0x9A || numero == 0x9C || numero == 0x9E)
+        return static_cast<char>(numero - 0x10);
+    return numero == 0xFF ? static_cast<char>(0x9F) : lettre;
+}
+
 std::vector<std::string> Lignes(std::string texte)
 {
     std::vector<std::string> lignes;
     for (char &lettre : texte)
-        if (lettre >= 'a' && lettre <= 'z')
-            lettre = static_cast<char>(lettre - 32);
+        lettre = Capitale(lettre);
     while (!texte.empty()) {
         const std::size_t fin = texte.find('\n');
         std::string ligne = texte.substr(0, fin);

@@ -15,7 +15,7 @@ struct Essai {
     bool echec = false;
 };
 
-/// `octets` is the file in Latin-1; only the letters a to z are turned to capitals.
+/// `octets` are the bytes of the file, Windows-1252.
 Essai Importe(const std::string &octets, const std::string &code, bool multi);
 
 } // namespace lente
