@@ -13,6 +13,15 @@ int Entier(QStringView texte)
     return valeur;
 }
 
+int Entier_De_Tete(QStringView texte)
+{
+    texte = texte.trimmed();
+    qsizetype fin = 0;
+    while (fin < texte.size() && texte[fin] >= u'0' && texte[fin] <= u'9')
+        ++fin;
+    return texte.first(fin).toInt();
+}
+
 std::size_t Indice(int valeur, std::size_t taille)
 {
     if (valeur < 0 || static_cast<std::size_t>(valeur) >= taille)

@@ -81,3 +81,13 @@ TEST(Tolere, un_defaut_du_programme_n_est_pas_passe)
 {
     EXPECT_THROW(Tolere([] { throw std::logic_error("defect"); }), std::logic_error);
 }
+
+TEST(Entier_De_Tete, les_chiffres_du_debut_font_le_nombre)
+{
+    EXPECT_EQ(Entier_De_Tete(u"77"), 77);
+    EXPECT_EQ(Entier_De_Tete(u" 01 "), 1);
+    EXPECT_EQ(Entier_De_Tete(u"2A"), 2);
+    EXPECT_EQ(Entier_De_Tete(u"A2"), 0);
+    EXPECT_EQ(Entier_De_Tete(u"  "), 0);
+    EXPECT_EQ(Entier_De_Tete(u"-1"), 0);
+}
