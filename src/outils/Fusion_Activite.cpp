@@ -1,0 +1,45 @@
+#include "outils/Fusion_Activite.h"
+
+#include "log/Chemin_Log.h"
+#include "log/Etat_Commun.h"
+#include "log/Poste.h"
+#include "outils/Fusion_Challenge.h"
+#include "plateforme/Boites.h"
+#include "plateforme/Dossier.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr Champ annee_du_qso{51, 2};
+constexpr Champ lettre{40, 1};
+
+QString Avec_La_Lettre_A(QStringView ligne)
+{
+    return ligne.toString().replace(lettre.colonne - 1, lettre.largeur, u'A');
+}
+
+} // namespace
+
+std::vector<QString> Activations(const Lignes_Texte &source, const Lignes_Texte &challenge, QStringView annee)
+{
+    const Lignes_Par_Site anciennes(challenge);
+    std::vector<QString> lignes;
+    for (const QStringView ligne : source) {
+        if (Lit(ligne, annee_du_qso) != annee)
+            continue;
+        const std::optional<QStringView> ancienne = anciennes.Pour(Lit(ligne, site_challenge));
+        lignes.push_back(ancienne ? ancienne->toString() : Avec_La_Lettre_A(ligne));
+    }
+    return lignes;
+}
+
+void Fusion_Activite(Poste &poste, QStringView code)
+{
+    poste.boites.Message(u"Attention toutes les références importées sont uniquement des Activations 'A'\n"
+                         u"N'oubliez pas d'enregistrer toutes les réactivations 'R'"_s);
+    const QString challenge = u"Ch_" + code;
+    const QString nom = Nom_Log_Fusion(poste, challenge);
+    const Lignes_Texte source = poste.dossier.Lit_Lignes(Chemin_Log_Sans_Annee(poste.etat.indicatif, code));
+    Acheve_Fusion(poste, nom, Activations(source, poste.dossier.Lit_Lignes(nom), Annee_Courte(poste, challenge)));
+}

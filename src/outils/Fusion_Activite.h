@@ -1,0 +1,17 @@
+#pragma once
+
+#include "plateforme/Lignes_Texte.h"
+
+#include <QString>
+
+#include <vector>
+
+struct Poste;
+
+/// The lines of a challenge from those of its award: each source line of the year (two digits), with the letter "A"
+/// behind its site, or the first line that the challenge has for the site.
+std::vector<QString> Activations(const Lignes_Texte &source, const Lignes_Texte &challenge, QStringView annee);
+
+/// Makes the log of a yearly challenge anew from the log of `code`, "DFCF" or "DMF". A challenge line without a source
+/// line of the year goes.
+void Fusion_Activite(Poste &poste, QStringView code);

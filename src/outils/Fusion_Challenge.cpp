@@ -1,0 +1,70 @@
+#include "outils/Fusion_Challenge.h"
+
+#include "log/Charge_Log.h"
+#include "log/Ecran_Principal.h"
+#include "log/Etat_Commun.h"
+#include "log/Ordre.h"
+#include "log/Poste.h"
+#include "outils/Supprime_Doubles.h"
+#include "outils/Trie_Log.h"
+#include "plateforme/Dossier.h"
+
+#include <utility>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+const QString &Annee(const Poste &poste, QStringView challenge)
+{
+    return challenge == u"Ch_DMF" ? poste.etat.annee_ch_dmf : poste.etat.annee_ch_dfcf;
+}
+
+} // namespace
+
+Lignes_Par_Site::Lignes_Par_Site(const Lignes_Texte &lignes)
+{
+    for (const QStringView ligne : lignes) {
+        const QStringView site = Lit(ligne, site_challenge);
+        if (!lignes_.contains(site))
+            lignes_.insert(site, ligne);
+    }
+}
+
+std::optional<QStringView> Lignes_Par_Site::Pour(QStringView site) const
+{
+    const auto place = lignes_.constFind(site);
+    if (place == lignes_.constEnd())
+        return std::nullopt;
+    return *place;
+}
+
+QStringView Annee_Courte(const Poste &poste, QStringView challenge)
+{
+    const QStringView annee = Annee(poste, challenge);
+    return annee.last(qMin(qsizetype{2}, annee.size()));
+}
+
+QString Nom_Log_Fusion(const Poste &poste, QStringView challenge)
+{
+    return poste.etat.indicatif + u'_' + poste.ecran.Dip_A() + u'_' + Annee(poste, challenge) + u".log";
+}
+
+QString Texte_En_Ordre(std::vector<QString> lignes)
+{
+    Trie_Sans_Casse(lignes);
+    QString texte;
+    for (const QString &ligne : lignes)
+        texte.append(ligne).append(fin_de_ligne);
+    return texte;
+}
+
+void Acheve_Fusion(Poste &poste, const QString &nom, std::vector<QString> lignes)
+{
+    poste.dossier.Remplace(nom, Texte_En_Ordre(std::move(lignes)), u"Temporaire.txt"_s);
+    Charge_Log(poste, poste.etat.diplome);
+    Supprime_Doubles(poste);
+    Trie_Log(poste);
+    poste.ecran.Efface_Saisie();
+    poste.ecran.Selectionne_Derniere();
+}

@@ -1,0 +1,38 @@
+#pragma once
+
+#include "log/Champ.h"
+#include "plateforme/Lignes_Texte.h"
+
+#include <QHash>
+#include <QString>
+
+#include <optional>
+#include <vector>
+
+struct Poste;
+
+/// The site of a challenge line: its reference without the letter behind it.
+inline constexpr Champ site_challenge{35, 5};
+
+/// The lines of a challenge log by their sites, the first one of each. `lignes` must outlive it.
+class Lignes_Par_Site {
+public:
+    explicit Lignes_Par_Site(const Lignes_Texte &lignes);
+
+    [[nodiscard]] std::optional<QStringView> Pour(QStringView site) const;
+
+private:
+    QHash<QStringView, QStringView> lignes_;
+};
+
+/// The last two digits of the year of a challenge: Ch_DMF, or Ch_DFCF for any other code.
+QStringView Annee_Courte(const Poste &poste, QStringView challenge);
+
+/// The log that a merge reads and writes: by the text of Dip_A, with the year of `challenge`.
+QString Nom_Log_Fusion(const Poste &poste, QStringView challenge);
+
+/// Lines as the sorted work list keeps them, each with its CR LF.
+QString Texte_En_Ordre(std::vector<QString> lignes);
+
+/// Makes `lignes` the whole of a challenge log, removes its doubles, sorts it and puts the entry screen to rest.
+void Acheve_Fusion(Poste &poste, const QString &nom, std::vector<QString> lignes);
