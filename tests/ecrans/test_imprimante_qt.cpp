@@ -1,57 +1,19 @@
 #include "faux/Impression.h"
+#include "faux/Impression_PDF.h"
 #include "plateforme/qt/Imprimante_Qt.h"
 
-#include <QApplication>
-#include <QComboBox>
 #include <QFontInfo>
-#include <QLineEdit>
 #include <QPrintDialog>
 #include <QPrinter>
 #include <QPrinterInfo>
-#include <QProcess>
 #include <QTemporaryDir>
-#include <QTimer>
 
 #include <gtest/gtest.h>
 
 using namespace Qt::StringLiterals;
 
-namespace {
-
-/// The pages of a PDF, as text with its columns.
-QStringList Pages(const QString &pdf)
-{
-    QProcess lecture;
-    lecture.start(u"pdftotext"_s, {u"-layout"_s, u"-enc"_s, u"UTF-8"_s, pdf, u"-"_s});
-    lecture.waitForFinished();
-    QStringList pages = QString::fromUtf8(lecture.readAllStandardOutput()).split(u'\f');
-    pages.removeLast();
-    return pages;
-}
-
-QStringList Lignes_Ecrites(const QString &pdf)
-{
-    return Pages(pdf).join(QString()).split(u'\n', Qt::SkipEmptyParts);
-}
-
-/// Runs `action` and handles the print dialogue that it opens.
-template <typename Action, typename Geste>
-void Pendant_Le_Dialogue(Action action, Geste geste)
-{
-    QTimer guetteur;
-    guetteur.setInterval(5);
-    QObject::connect(&guetteur, &QTimer::timeout, [&] {
-        auto *choix = qobject_cast<QPrintDialog *>(QApplication::activeModalWidget());
-        if (!choix)
-            return;
-        guetteur.stop();
-        geste(*choix);
-    });
-    guetteur.start();
-    action();
-}
-
-} // namespace
+using impression::Lignes_Ecrites;
+using impression::Pages;
 
 class Impression_PDF : public ::testing::Test {
 protected:
@@ -119,14 +81,11 @@ TEST(Imprimante_Qt, le_dialogue_imprime_dans_un_fichier_PDF)
     const QString pdf = dossier.filePath(u"choisi.pdf"_s);
     std::optional<QString> refus;
     QString titre;
-    Pendant_Le_Dialogue([&] { refus = Imprimante_Qt().Imprime({u"une ligne"_s}); },
-                        [&](QPrintDialog &choix) {
-                            titre = choix.windowTitle();
-                            auto *liste = choix.findChild<QComboBox *>(u"printers"_s);
-                            liste->setCurrentIndex(liste->count() - 1);
-                            choix.findChild<QLineEdit *>(u"filename"_s)->setText(pdf);
-                            choix.accept();
-                        });
+    impression::Pendant_Le_Dialogue([&] { refus = Imprimante_Qt().Imprime({u"une ligne"_s}); },
+                                    [&](QPrintDialog &choix) {
+                                        titre = choix.windowTitle();
+                                        impression::Choisit_Fichier(choix, pdf);
+                                    });
     EXPECT_EQ(refus, std::nullopt);
     EXPECT_EQ(titre, u"Imprimer"_s);
     EXPECT_EQ(Lignes_Ecrites(pdf), QStringList{u"une ligne"_s});
@@ -137,7 +96,7 @@ TEST(Imprimante_Qt, sans_imprimante_un_dialogue_ferme_est_dit_en_mots)
     if (!QPrinterInfo::defaultPrinter().isNull())
         GTEST_SKIP() << "this machine has a printer, which would print";
     std::optional<QString> refus;
-    Pendant_Le_Dialogue([&] { refus = Imprimante_Qt().Imprime({u"une ligne"_s}); },
-                        [](QPrintDialog &choix) { choix.reject(); });
+    impression::Pendant_Le_Dialogue([&] { refus = Imprimante_Qt().Imprime({u"une ligne"_s}); },
+                                    [](QPrintDialog &choix) { choix.reject(); });
     EXPECT_EQ(refus, u"Aucune imprimante n'est disponible : rien n'a été imprimé"_s);
 }
