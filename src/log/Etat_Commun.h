@@ -2,6 +2,8 @@
 
 #include <QString>
 
+#include <cstdint>
+
 /// The mark of a first installation, and the year of a challenge that was not chosen yet.
 inline constexpr QStringView indicatif_absent = u"FXXXX";
 inline constexpr QStringView annee_absente = u"2000";
@@ -42,6 +44,11 @@ struct Etat_Commun {
     QString libelle_categorie;
     QString categorie_liste;
     QString niveau_liste;
+
+    /// The canal of the challenge board, chosen with the hydraulic works.
+    QString canal_challenge;
+    std::int16_t nb_ouvrages_canal = 0;
+    std::int16_t numero_canal = 0;
 
     /// The page that Affichage and Reglements show, set by whoever opens them; empty where no host is configured.
     QString adresse_page;
