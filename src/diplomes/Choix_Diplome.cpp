@@ -6,7 +6,8 @@
 
 void Affiche_Option(Poste &poste, const Option_Diplome &option)
 {
-    poste.etat.libelle_categorie = option.texte.toString();
+    if (!option.garde_libelle)
+        poste.etat.libelle_categorie = option.texte.toString();
     Applique(option.choix, poste.etat);
     if (option.regle)
         option.regle(poste.etat, option.indice);

@@ -14,6 +14,7 @@ struct Option_Diplome {
     Choix choix;       ///< set besides Libelle_Categorie, which takes the text unless this names another
     /// Sets what is more than a shared text.
     void (*regle)(Etat_Commun &etat, int indice) = nullptr;
+    bool garde_libelle = false; ///< Libelle_Categorie stands as it was
 };
 
 /// The options that stand together under a label.
