@@ -2,6 +2,8 @@
 
 #include "consultation/ecrans/Aff_Contacte.h"
 #include "consultation/ecrans/Affiche_Toutes_Activites.h"
+#include "consultation/ecrans/Carte_Acti.h"
+#include "consultation/ecrans/Carte_Detail.h"
 #include "consultation/ecrans/Detail_Activite.h"
 #include "consultation/ecrans/Detail_DFCF.h"
 #include "consultation/ecrans/Detail_FFF.h"
@@ -16,7 +18,10 @@
 #include "log/Ecran_Principal.h"
 #include "log/Etat_Commun.h"
 #include "log/Poste.h"
+#include "outils/Collecte_DDFM.h"
 #include "outils/Export_ADIF.h"
+#include "outils/Fusion_Activite.h"
+#include "outils/Fusion_Trelune.h"
 #include "outils/Import_ADIF.h"
 #include "outils/Supprime_Doubles.h"
 #include "outils/Trie_Log.h"
@@ -55,6 +60,8 @@ void Inscrit_Ecrans(Registre &registre, Poste &poste, Vue_Saisie &vue)
     Inscrit_Ecran<Aff_Contacte>(registre, poste, u"Aff_Contacte"_s);
     Inscrit_Ecran<Affiche_Toutes_Activites>(registre, poste, u"Affiche_Toutes_Activites"_s);
     Inscrit_Ecran<Detail_Activite>(registre, poste, u"Detail_Activite"_s);
+    Inscrit_Ecran<Carte_Acti>(registre, poste, u"Carte_Acti"_s);
+    Inscrit_Ecran<Carte_Detail>(registre, poste, u"Carte_Detail"_s);
     Inscrit_Ecran<Detail_DFCF>(registre, poste, u"Detail_DFCF"_s);
     Inscrit_Ecran<Detail_FFF>(registre, poste, u"Detail_FFF"_s);
     Inscrit_Ecran<Detail_PC>(registre, poste, u"Detail_PC"_s);
@@ -74,6 +81,10 @@ void Inscrit_Commandes(Registre &registre, Poste &poste)
     commande(u"Export_ADIF"_s, Export_ADIF);
     commande(u"Trie_Log"_s, Trie_Log);
     commande(u"Supprime_Doubles"_s, Supprime_Doubles);
+    commande(u"Collecte_DDFM"_s, Collecte_DDFM);
+    commande(u"Fusion_Trelune"_s, Fusion_Trelune);
+    for (const QStringView code : {u"DFCF", u"DMF"})
+        registre.Inscrit_Commande(u"Fusion_Activite_"_s + code, [&poste, code] { Fusion_Activite(poste, code); });
     commande(u"Nouvelle_Revision"_s, Nouvelle_Revision);
     // The award that Dip_A shows, opened with Enter or not; a text that is no award has no screen.
     registre.Inscrit_Commande(u"Fiche_Diplome"_s,

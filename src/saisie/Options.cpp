@@ -46,7 +46,8 @@ void Tique(const Poste &poste, Vue_Saisie &vue)
 void Affiche_A_Propos(Poste &poste)
 {
     poste.boites.Message(u"Vorlain Revision "_s + poste.etat.version +
-                         u"\n\nCe programme est fourni tel quel, sans aucune garantie.");
+                         u"\n\nCe programme est fourni tel quel, sans aucune garantie.\n"
+                         u"Carte des départements : Victor Cazanave (svg-maps), licence CC BY 4.0.");
 }
 
 void Affiche_Historique(Poste &poste)
