@@ -43,7 +43,7 @@ Liste_Fixe::Liste_Fixe(QWidget *parent) : QListView(parent), modele_(new Modele(
     setUniformItemSizes(true);
     setEditTriggers(NoEditTriggers);
     setSelectionMode(SingleSelection);
-    connect(this, &QListView::clicked, this, [this](const QModelIndex &index) { Q_EMIT Cliquee(index.row()); });
+    connect(this, &QListView::clicked, this, [this](const QModelIndex &index) { Selectionne(index.row()); });
     connect(this, &QListView::doubleClicked, this,
             [this](const QModelIndex &index) { Q_EMIT Double_Cliquee(index.row()); });
 }
@@ -52,6 +52,7 @@ Liste_Fixe::~Liste_Fixe() = default;
 
 void Liste_Fixe::Remplit(std::size_t nombre, Texte_De_Rang texte)
 {
+    rang_dit_ = -1;
     modele_->Remplit(nombre, std::move(texte));
 }
 
@@ -73,7 +74,8 @@ QString Liste_Fixe::Entree(int rang) const
 
 int Liste_Fixe::Rang_Courant() const
 {
-    return currentIndex().row();
+    // The focus alone makes the first entry the current one, without selecting it.
+    return selectionModel()->isSelected(currentIndex()) ? currentIndex().row() : -1;
 }
 
 void Liste_Fixe::Selectionne(int rang)
@@ -81,7 +83,14 @@ void Liste_Fixe::Selectionne(int rang)
     if (rang < 0 || rang >= Nombre())
         return;
     setCurrentIndex(modele_->index(rang));
+    rang_dit_ = rang;
     Q_EMIT Cliquee(rang);
+}
+
+void Liste_Fixe::Dit_Le_Deplacement()
+{
+    if (Rang_Courant() >= 0 && Rang_Courant() != rang_dit_)
+        Selectionne(Rang_Courant());
 }
 
 void Liste_Fixe::Pose_Entete(QLabel *entete)
@@ -128,10 +137,19 @@ void Liste_Fixe::keyPressEvent(QKeyEvent *touche)
             Q_EMIT Double_Cliquee(Rang_Courant());
         return;
     }
-    const int avant = Rang_Courant();
-    QListView::keyPressEvent(touche);
-    if (Rang_Courant() != avant && Rang_Courant() >= 0)
-        Q_EMIT Cliquee(Rang_Courant());
+    const bool fleche = touche->key() == Qt::Key_Up || touche->key() == Qt::Key_Down;
+    if (fleche && Rang_Courant() < 0)
+        Selectionne(0);
+    else
+        QListView::keyPressEvent(touche);
+    Dit_Le_Deplacement();
+}
+
+void Liste_Fixe::mouseReleaseEvent(QMouseEvent *souris)
+{
+    QListView::mouseReleaseEvent(souris);
+    // Another button, or a release away from the press, selects without a click.
+    Dit_Le_Deplacement();
 }
 
 void Liste_Fixe::resizeEvent(QResizeEvent *evenement)

@@ -37,21 +37,25 @@ public:
     static QFont Police();
 
 Q_SIGNALS:
-    /// A click, or a key that moved the selection.
+    /// A click, or a key or a mouse that moved the selection: what is shown selected was told.
     void Cliquee(int rang);
     /// A double click, or Enter on an entry; Cliquee() came first.
     void Double_Cliquee(int rang);
 
 protected:
     void keyPressEvent(QKeyEvent *touche) override;
+    void mouseReleaseEvent(QMouseEvent *souris) override;
     void resizeEvent(QResizeEvent *evenement) override;
 
 private:
     class Modele;
     [[nodiscard]] int Marge_Texte() const;
     void Place_Entete();
+    /// Tells a selection that Qt moved by itself.
+    void Dit_Le_Deplacement();
 
     QLabel *entete_ = nullptr;
     int lignes_reservees_ = 10;
+    int rang_dit_ = -1; ///< by the last Cliquee()
     Modele *modele_;
 };
