@@ -1,6 +1,7 @@
 #include "ecrans/Chaine_Entree.h"
 
 #include <QCoreApplication>
+#include <QInputMethodEvent>
 #include <QKeyEvent>
 #include <QWidget>
 
@@ -68,9 +69,11 @@ Chaine_Entree::Chaine_Entree(QWidget *controle, Reactions reactions)
 
 bool Chaine_Entree::eventFilter(QObject *objet, QEvent *evenement)
 {
-    if (evenement->type() != QEvent::KeyPress || transmet_)
-        return QObject::eventFilter(objet, evenement);
-    return Traite(*static_cast<QKeyEvent *>(evenement));
+    if (!transmet_ && evenement->type() == QEvent::KeyPress)
+        return Traite(*static_cast<QKeyEvent *>(evenement));
+    if (!transmet_ && evenement->type() == QEvent::InputMethod)
+        return Traite_Composition(*static_cast<QInputMethodEvent *>(evenement));
+    return QObject::eventFilter(objet, evenement);
 }
 
 bool Chaine_Entree::Traite(QKeyEvent &touche)
@@ -87,16 +90,30 @@ bool Chaine_Entree::Traite(QKeyEvent &touche)
     const bool retour_arriere = touche.key() == Qt::Key_Backspace;
     if (retour_arriere || Tape(touche))
         reactions_.avant(retour_arriere);
-    Transmet(touche);
-    reactions_.apres();
+    QKeyEvent capitale(touche.type(), touche.key(), touche.modifiers(), En_Capitales(touche.text()),
+                       touche.isAutoRepeat(), static_cast<quint16>(touche.count()));
+    Transmet(capitale);
     return true;
 }
 
-void Chaine_Entree::Transmet(const QKeyEvent &touche)
+bool Chaine_Entree::Traite_Composition(const QInputMethodEvent &composition)
 {
-    QKeyEvent capitale(touche.type(), touche.key(), touche.modifiers(), En_Capitales(touche.text()),
-                       touche.isAutoRepeat(), static_cast<quint16>(touche.count()));
+    if (composition.commitString().isEmpty())
+        return false;
+    if (!reactions_.accepte())
+        return true;
+    reactions_.avant(false);
+    QInputMethodEvent capitale(composition.preeditString(), composition.attributes());
+    capitale.setCommitString(En_Capitales(composition.commitString()), composition.replacementStart(),
+                             composition.replacementLength());
+    Transmet(capitale);
+    return true;
+}
+
+void Chaine_Entree::Transmet(QEvent &evenement)
+{
     transmet_ = true;
-    QCoreApplication::sendEvent(controle_, &capitale);
+    QCoreApplication::sendEvent(controle_, &evenement);
     transmet_ = false;
+    reactions_.apres();
 }

@@ -4,6 +4,7 @@
 
 #include <functional>
 
+class QInputMethodEvent;
 class QKeyEvent;
 class QWidget;
 
@@ -32,7 +33,10 @@ protected:
 
 private:
     bool Traite(QKeyEvent &touche);
-    void Transmet(const QKeyEvent &touche);
+    /// A character that a dead key or an input method has composed comes without a key of its own.
+    bool Traite_Composition(const QInputMethodEvent &composition);
+    /// Hands an event to the control, past this filter.
+    void Transmet(QEvent &evenement);
 
     QWidget *controle_;
     Reactions reactions_;
