@@ -36,6 +36,9 @@ private:
     QStringView classe_ = u"";
 };
 
+/// Room for a row of any award, so that it is allocated once.
+constexpr qsizetype largeur_courante = 90;
+
 using Par_Departement = std::array<QStringView, taille_departements>;
 
 /// The department as a row shows it; `index` is called with its index where the list has a table of them.
@@ -69,8 +72,9 @@ const Excellence *Excellence_Voulue(const Liste_Diplome &liste, const Etat_Commu
 
 QString Compose_Rang(const Forme_Rang &forme, QStringView ligne_log, QStringView dpt)
 {
-    QString rang(forme.blancs_devant, u' ');
-    rang.reserve(100);
+    QString rang;
+    rang.reserve(largeur_courante);
+    rang.resize(forme.blancs_devant, u' ');
     for (const Colonne &colonne : forme.colonnes) {
         rang += colonne.champ.colonne == col::Dpt.colonne ? dpt : Lit(ligne_log, colonne.champ);
         rang.resize(rang.size() + colonne.blancs, u' ');
