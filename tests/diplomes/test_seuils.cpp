@@ -70,6 +70,13 @@ const std::vector<Niveau_Attendu> niveaux_attendus = {
     {&fiche_daf, u"Phone"_s, u"Label7"_s, u"B_CW"_s, 50},
     {&fiche_daf, u"CW"_s, u"Label1"_s, u"B_MIX"_s, 100, {.mode = u"CW"_s}},
     {&fiche_daf, u"Mixte"_s, u"Label5"_s, u"B_Acti"_s, 250},
+    {&fiche_dohf, u"BA"_s, u"Label4"_s, u"N1"_s, 10, {.ref = u"45BA001"_s}},
+    {&fiche_dohf, u"EC"_s, u"Label7"_s, u"N2"_s, 20, {.ref = u"45BS001"_s}},
+    {&fiche_dohf, u"PT"_s, u"Label12"_s, u"N3"_s, 30, {.ref = u"45TU001"_s}},
+    {&fiche_dohf, u"AQ"_s, u"Label15"_s, u"Chasseur"_s, 50, {.ref = u"45AQ001"_s}},
+    {&fiche_dohf, u"MA"_s, u"Label3"_s, u"Excellence"_s, 100, {.ref = u"45PE001"_s}},
+    {&fiche_dohf, u"MI"_s, u"Label1"_s, u"Honneur"_s, 250, {.ref = u"45XX001"_s}},
+    {&fiche_dohf, u"EC"_s, u"Label27"_s, u"Maitre"_s, 500, {.ref = u"45EC001"_s}},
 };
 // clang-format on
 

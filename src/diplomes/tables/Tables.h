@@ -17,6 +17,7 @@ extern const Fiche_Diplome fiche_difi;
 extern const Fiche_Diplome fiche_difm;
 extern const Fiche_Diplome fiche_dlf;
 extern const Fiche_Diplome fiche_dmf;
+extern const Fiche_Diplome fiche_dohf;
 extern const Fiche_Diplome fiche_dplf;
 extern const Fiche_Diplome fiche_fff;
 extern const Fiche_Diplome fiche_pc;
@@ -31,6 +32,7 @@ extern const Liste_Diplome liste_difi;
 extern const Liste_Diplome liste_difm;
 extern const Liste_Diplome liste_dlf;
 extern const Liste_Diplome liste_dmf;
+extern const Liste_Diplome liste_dohf;
 extern const Liste_Diplome liste_dplf;
 extern const Liste_Diplome liste_fff;
 extern const Liste_Diplome liste_pc;
@@ -39,6 +41,7 @@ extern const Liste_Diplome liste_wlf;
 extern const Choix_Diplome choix_daf;
 extern const Choix_Diplome choix_dcpf;
 extern const Choix_Diplome choix_dff;
+extern const Choix_Diplome choix_dohf;
 
 /// Every sheet, every list and every choice screen that the frames show.
 std::span<const Fiche_Diplome *const> Fiches();

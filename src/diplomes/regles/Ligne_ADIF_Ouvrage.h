@@ -1,0 +1,7 @@
+#pragma once
+
+#include <QString>
+
+/// The ADIF record of a QSO with a work or an activity, one line without its end. `sig` bears the reference, and
+/// `sig_info` its length in front of the name.
+QString Ligne_ADIF_Ouvrage(QStringView ligne_log);
