@@ -121,6 +121,12 @@ TEST(Fiche_DOHF, la_lettre_de_la_Corse_se_joint_aux_autres)
     EXPECT_EQ(Nombre(u"MI"_s, {Ouvrage(u"2AEC102"_s), Ouvrage(u"2BEC102"_s)}), 2);
 }
 
+TEST(Fiche_DOHF, un_signe_qui_n_est_pas_une_lettre_est_passe)
+{
+    EXPECT_EQ(Nombre(u"EC"_s, {Ouvrage(u"45EC@02"_s), Ouvrage(u"4-EC102"_s), Ouvrage(u"45E1C02"_s)}), 3);
+    EXPECT_EQ(Nombre(u"EC"_s, {Ouvrage(u"45ECA02"_s), Ouvrage(u"É5EC102"_s)}), 0);
+}
+
 TEST(Fiche_DOHF, une_ligne_coupee_ne_compte_que_pour_mixte)
 {
     const Lignes_Essai lignes = {Ouvrage(u"45EC102"_s).left(30), u""_s};
