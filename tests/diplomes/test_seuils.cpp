@@ -77,6 +77,13 @@ const std::vector<Niveau_Attendu> niveaux_attendus = {
     {&fiche_dohf, u"MA"_s, u"Label3"_s, u"Excellence"_s, 100, {.ref = u"45PE001"_s}},
     {&fiche_dohf, u"MI"_s, u"Label1"_s, u"Honneur"_s, 250, {.ref = u"45XX001"_s}},
     {&fiche_dohf, u"EC"_s, u"Label27"_s, u"Maitre"_s, 500, {.ref = u"45EC001"_s}},
+    {&fiche_dvff, {}, u"Label4"_s, u"N1"_s, 10},
+    {&fiche_dvff, {}, u"Label7"_s, u"N2"_s, 20},
+    {&fiche_dvff, {}, u"Label12"_s, u"N3"_s, 30},
+    {&fiche_dvff, {}, u"Label15"_s, u"Chasseur"_s, 50},
+    {&fiche_dvff, {}, u"Label3"_s, u"Excellence"_s, 100},
+    {&fiche_dvff, {}, u"Label1"_s, u"Honneur"_s, 250},
+    {&fiche_dvff, {}, u"Label27"_s, u"Maitre"_s, 500},
 };
 // clang-format on
 
