@@ -45,10 +45,13 @@ struct Etat_Commun {
     QString categorie_liste;
     QString niveau_liste;
 
-    /// The canal of the challenge board, chosen with the hydraulic works.
+    /// The canal whose board Challenge shows, the works on it and its number in the list of works, as Select_Dip_DOHF
+    /// set them.
     QString canal_challenge;
     std::int16_t nb_ouvrages_canal = 0;
     std::int16_t numero_canal = 0;
+    /// The towers of the telegraph line that Select_Dip_TDC chose.
+    std::int16_t nb_tours_ligne = 0;
 
     /// The page that Affichage and Reglements show, set by whoever opens them; empty where no host is configured.
     QString adresse_page;
