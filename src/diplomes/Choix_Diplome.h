@@ -2,9 +2,16 @@
 
 #include "diplomes/Choix.h"
 
+#include <QString>
 #include <QStringView>
 
 #include <span>
+
+/// A list of bands beside an option: the first such list shows, and choosing an option shows its own alone.
+struct Selecteur_De_Bande {
+    QStringView nom;
+    std::span<const QStringView> bandes;
+};
 
 /// One option of a choice screen; its control is `Diplome_<indice>`.
 struct Option_Diplome {
@@ -15,6 +22,8 @@ struct Option_Diplome {
     /// Sets what is more than a shared text.
     void (*regle)(Etat_Commun &etat, int indice) = nullptr;
     bool garde_libelle = false; ///< Libelle_Categorie stands as it was
+    /// Its text goes to Bande_Liste.
+    const Selecteur_De_Bande *selecteur = nullptr;
 };
 
 /// The options that stand together under a label.
@@ -33,5 +42,6 @@ struct Choix_Diplome {
 
 struct Poste;
 
-/// Afficher with this option on: sets its texts and shows its screen.
-void Affiche_Option(Poste &poste, const Option_Diplome &option);
+/// Afficher with this option on: sets its texts and shows its screen. `bande` is the text of its selector, if it has
+/// one.
+void Affiche_Option(Poste &poste, const Option_Diplome &option, const QString &bande = {});

@@ -29,7 +29,7 @@ struct Regle_Compte {
 };
 
 /// A label of a tier in the three states of the tier. The texts may name {n}, {d}, {seuil_n}, the missing numbers
-/// {manque_n} and {manque_d} (never below 0), the plain difference {reste_n}, and the shared texts.
+/// {manque_n} and {manque_d} (never below 0), the plain differences {reste_n} and {reste_d}, and the shared texts.
 struct Texte_Detail {
     QStringView nom = {};
     QStringView manque = {};

@@ -3,7 +3,10 @@
 #include "diplomes/Choix_Diplome.h"
 #include "ecrans/Ecran.h"
 
+#include <map>
+
 class QButtonGroup;
+class QComboBox;
 class QWidget;
 
 /// The choice screen of any award that is entered through one. It stays open behind the sheet.
@@ -17,8 +20,11 @@ public:
 private:
     QWidget *Cadre(const Groupe_Options &groupe, QButtonGroup *options);
     QWidget *Bouton_Afficher(const QButtonGroup *options);
+    QWidget *Selecteur(const Option_Diplome &option);
+    void Montre_Selecteur(int indice);
     void Affiche(int indice);
 
     Poste &poste_;
     const Choix_Diplome &choix_;
+    std::map<int, QComboBox *> selecteurs_; ///< by the index of their option
 };

@@ -28,6 +28,7 @@ void Pose_Nombres(Valeurs &valeurs, const Niveau_Diplome &niveau, Comptes compte
     valeurs.Pose(u"d", comptes.d);
     valeurs.Pose(u"seuil_n", niveau.seuil_n);
     valeurs.Pose(u"reste_n", niveau.seuil_n - comptes.n);
+    valeurs.Pose(u"reste_d", niveau.seuil_d - comptes.d);
     valeurs.Pose(u"manque_n", std::max(0, niveau.seuil_n - comptes.n));
     valeurs.Pose(u"manque_d", std::max(0, niveau.seuil_d - comptes.d));
 }
