@@ -4,13 +4,51 @@
 
 namespace {
 
-constexpr std::array fiches = {&fiche_daf,  &fiche_dcf,  &fiche_dcpf, &fiche_dfcf, &fiche_dff,
-                               &fiche_difi, &fiche_difm, &fiche_dlf,  &fiche_dmf,  &fiche_dohf,
-                               &fiche_dplf, &fiche_dvff, &fiche_fff,  &fiche_pc,   &fiche_wlf};
-constexpr std::array listes = {&liste_daf,  &liste_dcf,  &liste_dcpf, &liste_dfcf, &liste_dff,
-                               &liste_difi, &liste_difm, &liste_dlf,  &liste_dmf,  &liste_dohf,
-                               &liste_dplf, &liste_dvff, &liste_fff,  &liste_pc,   &liste_wlf};
-constexpr std::array choix = {&choix_daf, &choix_dcpf, &choix_dff, &choix_dohf};
+// clang-format off
+constexpr std::array fiches = {
+    &fiche_daf,
+    &fiche_dcf,
+    &fiche_dcpf,
+    &fiche_ddfm,
+    &fiche_dfcf,
+    &fiche_dff,
+    &fiche_difi,
+    &fiche_difm,
+    &fiche_dlf,
+    &fiche_dmf,
+    &fiche_dohf,
+    &fiche_dplf,
+    &fiche_dvff,
+    &fiche_fff,
+    &fiche_pc,
+    &fiche_wlf,
+};
+constexpr std::array listes = {
+    &liste_daf,
+    &liste_dcf,
+    &liste_dcpf,
+    &liste_ddfm,
+    &liste_dfcf,
+    &liste_dff,
+    &liste_difi,
+    &liste_difm,
+    &liste_dlf,
+    &liste_dmf,
+    &liste_dohf,
+    &liste_dplf,
+    &liste_dvff,
+    &liste_fff,
+    &liste_pc,
+    &liste_wlf,
+};
+constexpr std::array choix = {
+    &choix_daf,
+    &choix_dcpf,
+    &choix_ddfm,
+    &choix_dff,
+    &choix_dohf,
+};
+// clang-format on
 
 } // namespace
 

@@ -11,6 +11,7 @@
 extern const Fiche_Diplome fiche_daf;
 extern const Fiche_Diplome fiche_dcf;
 extern const Fiche_Diplome fiche_dcpf;
+extern const Fiche_Diplome fiche_ddfm;
 extern const Fiche_Diplome fiche_dfcf;
 extern const Fiche_Diplome fiche_dff;
 extern const Fiche_Diplome fiche_difi;
@@ -27,6 +28,7 @@ extern const Fiche_Diplome fiche_wlf;
 extern const Liste_Diplome liste_daf;
 extern const Liste_Diplome liste_dcf;
 extern const Liste_Diplome liste_dcpf;
+extern const Liste_Diplome liste_ddfm;
 extern const Liste_Diplome liste_dfcf;
 extern const Liste_Diplome liste_dff;
 extern const Liste_Diplome liste_difi;
@@ -42,6 +44,7 @@ extern const Liste_Diplome liste_wlf;
 
 extern const Choix_Diplome choix_daf;
 extern const Choix_Diplome choix_dcpf;
+extern const Choix_Diplome choix_ddfm;
 extern const Choix_Diplome choix_dff;
 extern const Choix_Diplome choix_dohf;
 
