@@ -149,4 +149,5 @@ void Touche_Dip(Poste &poste, Vue_Saisie &vue)
     Repart_De_Zero(poste, vue);
     // The focus goes back to where the operator is typing: the next letter of the code would land in the band.
     vue.Donne_Focus(Controle::Dip_A);
+    vue.Curseur_A_La_Fin(Controle::Dip_A);
 }

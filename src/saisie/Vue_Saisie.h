@@ -62,8 +62,9 @@ public:
 
     [[nodiscard]] virtual bool Est_Actif(Controle controle) const = 0;
     virtual void Active(Controle controle, bool actif) = 0;
-    /// The control must be enabled.
+    /// The control must be enabled. The text of a field or combo is selected, so that typing replaces it.
     virtual void Donne_Focus(Controle controle) = 0;
+    /// The cursor goes behind the text of a field or combo, and nothing is selected: typing adds to it.
     virtual void Curseur_A_La_Fin(Controle champ) = 0;
 
     /// The option menus: which of the two entries of each is checked.

@@ -92,6 +92,21 @@ TEST_F(Clavier, le_vert_suit_aussi_la_touche_de_tabulation)
     EXPECT_EQ(Verts(), QStringList{u"Bande_A"_s});
 }
 
+TEST_F(Clavier, ce_qu_on_tape_remplace_le_texte_du_champ_mais_suit_le_debut_du_nom)
+{
+    Prepare(u"DFCF"_s);
+    Frappe_Et_Entre(u"dlf"_s);
+    EXPECT_EQ(Ecran().Texte(Controle::Frame3), u"Diplome des Lavoirs de France"_s);
+    Frappe_Et_Entre(u"14.05"_s);
+    EXPECT_EQ(Ecran().Texte(Controle::Bande_A), u"14.05"_s);
+    for (const QString &texte : {u"f5abc"_s, u""_s, u"77001"_s, u""_s, u"cw"_s, u"579"_s, u"559"_s, u"vaux"_s})
+        Frappe_Et_Entre(texte);
+    EXPECT_EQ(Ecran().Texte(Controle::Mode_A), u"CW"_s);
+    EXPECT_EQ(Ecran().Texte(Controle::RSTR_A), u"579"_s);
+    EXPECT_EQ(Ecran().Texte(Controle::RSTE_A), u"559"_s);
+    EXPECT_EQ(Ecran().Texte(Controle::Nom_A), u"L. VAUX"_s);
+}
+
 TEST_F(Clavier, les_fleches_choisissent_le_diplome_et_la_bande)
 {
     Prepare(u"DFCF"_s);
@@ -109,7 +124,6 @@ TEST_F(Clavier, une_bande_libre_se_retient_comme_moins_un_et_revient_vide)
 {
     Prepare(u"DLF"_s);
     Touche(Qt::Key_Return);
-    Controle_Nomme<QComboBox>(u"Bande_A"_s).lineEdit()->selectAll();
     Frappe_Et_Entre(u"7.123"_s);
     EXPECT_EQ(Reglage(section, u"bande Utilisee"_s), u"-1"_s);
     for (const QString &texte : {u"f5abc"_s, u""_s, u"77001"_s, u""_s, u""_s, u""_s, u""_s, u""_s, u""_s})

@@ -30,6 +30,18 @@
 
 using namespace Qt::StringLiterals;
 
+namespace {
+
+/// Where the text of a field or combo is typed; nullptr for other controls.
+QLineEdit *Ligne_De_Texte(QWidget *controle)
+{
+    if (const auto *combo = qobject_cast<QComboBox *>(controle))
+        return combo->lineEdit();
+    return qobject_cast<QLineEdit *>(controle);
+}
+
+} // namespace
+
 Main::Main(const Ports &ports, Etat_Commun &etat) : poste_{ports, etat, *this}
 {
     setObjectName(u"Main"_s);
@@ -241,12 +253,14 @@ void Main::Donne_Focus(Controle controle)
 {
     QWidget *widget = controles_.at(controle);
     widget->setFocus(Qt::OtherFocusReason);
+    if (QLineEdit *champ = Ligne_De_Texte(widget))
+        champ->selectAll();
     Marque_Courant(widget);
 }
 
 void Main::Curseur_A_La_Fin(Controle champ)
 {
-    qobject_cast<QLineEdit *>(controles_.at(champ))->end(false);
+    Ligne_De_Texte(controles_.at(champ))->end(false);
 }
 
 void Main::Coche_Saisie_Differee(bool differee)
