@@ -67,10 +67,14 @@ TEST_F(Champ, une_combo_libre_ne_retient_ni_ne_devine_rien)
     QComboBox *combo = Combo_Libre(&ecran);
     combo->addItems({u"14 Mhz"_s, u"144 Mhz"_s});
     combo->setEditText(u""_s);
+    ecran.show();
+    ecran.activateWindow();
+    combo->setFocus();
     conduite::Tape(*combo, u"14"_s);
     EXPECT_EQ(combo->currentText(), u"14"_s);
     QTest::keyClick(combo, Qt::Key_Return);
     EXPECT_EQ(combo->count(), 2);
+    EXPECT_EQ(combo->completer(), nullptr);
     EXPECT_EQ(combo->currentText(), u"14"_s);
     EXPECT_EQ(Indice_Du_Texte(*combo), -1);
     combo->setEditText(u"144 Mhz"_s);
