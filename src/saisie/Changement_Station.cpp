@@ -57,7 +57,8 @@ void Cree_Logs(Poste &poste, QStringView indicatif)
 void Change_Station(Poste &poste, Vue_Saisie &vue, const QString &indicatif)
 {
     poste.etat.indicatif = indicatif;
-    if (!poste.dossier.S_Ouvre(Chemin_Log_Sans_Annee(indicatif, u"DFCF")))
+    // A DFCF log that is there and does not open is no reason to empty the others.
+    if (!poste.dossier.Existe(Chemin_Log_Sans_Annee(indicatif, u"DFCF")))
         Installe_Nouvelle_Station(poste);
     Tolere([&] { Ecrit_General(poste, cles::indicatif_station, indicatif); });
     vue.Ecrit(Controle::I_Station, QString(indicatif).replace(u'_', u'/'));

@@ -126,3 +126,20 @@ TEST_F(Changement, un_indice_absurde_laisse_le_choix_comme_il_est)
     Change_Station(essai.poste, essai.vue, u"F4ABC"_s);
     EXPECT_EQ(essai.vue.Texte(Controle::Bande_A), u""_s);
 }
+
+TEST_F(Changement, un_log_dfcf_qui_ne_s_ouvre_pas_ne_vide_pas_les_autres)
+{
+    const QByteArray log = QSO({}).toLatin1() + "\r\n";
+    ASSERT_TRUE(QDir(essai.fichiers.Chemin()).mkdir(u"F4ABC_DFCF.log"_s));
+    essai.fichiers.Pose(u"F4ABC_DMF.log"_s, log);
+    Change_Station(essai.poste, essai.vue, u"F4ABC"_s);
+    EXPECT_EQ(essai.fichiers.Octets(u"F4ABC_DMF.log"_s), log);
+    EXPECT_EQ(essai.etat.indicatif, u"F4ABC"_s);
+}
+
+TEST_F(Changement, les_logs_d_une_station_neuve_se_creent_vides_par_dessus_un_reste)
+{
+    essai.fichiers.Pose(u"F4ABC_DMF.log"_s, QSO({}).toLatin1() + "\r\n");
+    Cree_Logs(essai.poste, u"F4ABC");
+    EXPECT_EQ(essai.fichiers.Octets(u"F4ABC_DMF.log"_s), "");
+}
