@@ -142,10 +142,13 @@ struct stat Etat(const Descripteur &fichier, const QString &chemin)
     return etat;
 }
 
-bool Finit_Sans_Ligne(const Descripteur &fichier, off_t taille)
+/// A last character that cannot be read is a failure: two lines might join.
+bool Finit_Sans_Ligne(const Descripteur &fichier, const QString &chemin, off_t taille)
 {
     char dernier = '\n';
-    return taille > 0 && ::pread(fichier.Numero(), &dernier, 1, taille - 1) == 1 && dernier != '\n';
+    if (taille > 0 && ::pread(fichier.Numero(), &dernier, 1, taille - 1) < 0)
+        Echoue(chemin, errno);
+    return dernier != '\n';
 }
 
 /// A log that is a link keeps being one: what it points to is replaced.
@@ -189,7 +192,7 @@ void Ajoute_Au_Fichier(const QString &chemin, QByteArrayView ligne)
     Descripteur fichier(chemin, O_RDWR | O_CREAT | O_APPEND);
     const off_t taille = Etat(fichier, chemin).st_size;
     QByteArray octets;
-    if (Finit_Sans_Ligne(fichier, taille))
+    if (Finit_Sans_Ligne(fichier, chemin, taille))
         octets += "\r\n";
     octets += ligne;
     try {
