@@ -7,6 +7,7 @@ class Horloge;
 class Imprimante;
 class Reglages;
 class Telechargement;
+class Vues_Web;
 
 /// What the program needs of the platform, handed by reference to whoever works with it.
 struct Ports {
@@ -17,4 +18,5 @@ struct Ports {
     Ecrans &ecrans;
     Imprimante &imprimante;
     Telechargement &telechargement;
+    Vues_Web &vues_web;
 };

@@ -6,7 +6,8 @@
 
 Programme::Programme(const QString &repertoire, const Horloge &horloge)
     : dossier_(repertoire),
-      ecran_({dossier_, reglages_, horloge, boites_, registre_, imprimante_, telechargement_}, etat_)
+      vues_web_(Vues_Web_Du_Programme()),
+      ecran_({dossier_, reglages_, horloge, boites_, registre_, imprimante_, telechargement_, *vues_web_}, etat_)
 {
     Inscrit(registre_, ecran_.Le_Poste(), ecran_);
     ecran_.Installe_Menus(registre_);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "log/Etat_Commun.h"
+#include "plateforme/Vue_Web.h"
 #include "plateforme/qt/Boites_Qt.h"
 #include "plateforme/qt/Dossier_Disque.h"
 #include "plateforme/qt/Imprimante_Qt.h"
@@ -31,6 +32,7 @@ private:
     Telechargement_Qt telechargement_;
     Registre registre_;
     Imprimante_Qt imprimante_;
+    std::unique_ptr<Vues_Web> vues_web_;
     Etat_Commun etat_;
     Main ecran_;
 };

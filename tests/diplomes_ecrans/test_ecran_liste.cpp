@@ -66,7 +66,7 @@ TEST_F(Liste_A_L_Ecran, enregistrer_ecrit_le_fichier_et_le_dit_dans_une_vraie_bo
 {
     Boites_Qt boites;
     Poste poste{{essai_.dossier, essai_.reglages, essai_.horloge, boites, essai_.ecrans, essai_.imprimante,
-                 essai_.telechargement},
+                 essai_.telechargement, essai_.vues_web},
                 essai_.etat,
                 essai_.ecran};
     Ecran_Liste ecran(poste, liste_dfcf);

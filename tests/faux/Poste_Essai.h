@@ -7,6 +7,7 @@
 #include "faux/Imprimante_Fausse.h"
 #include "faux/Reglages_Memoire.h"
 #include "faux/Telechargement_Faux.h"
+#include "faux/Vues_Web_Fausses.h"
 #include "log/Etat_Commun.h"
 #include "log/Poste.h"
 #include "plateforme/qt/Dossier_Disque.h"
@@ -54,9 +55,10 @@ struct Poste_Essai {
     Ecrans_Faux ecrans;
     Imprimante_Fausse imprimante;
     Telechargement_Faux telechargement;
+    Vues_Web_Fausses vues_web;
     Etat_Commun etat;
     Ecran_Faux ecran;
-    Poste poste{{dossier, reglages, horloge, boites, ecrans, imprimante, telechargement}, etat, ecran};
+    Poste poste{{dossier, reglages, horloge, boites, ecrans, imprimante, telechargement, vues_web}, etat, ecran};
 
     Poste_Essai()
     {

@@ -20,10 +20,10 @@ struct Mise_A_Jour_Http : ::testing::Test {
     Serveur_Http serveur;
     Telechargement_Qt telechargement{{.silence_ms = 500, .total_ms = 10000}};
     Poste_Essai essai;
-    Poste poste{
-        {essai.dossier, essai.reglages, essai.horloge, essai.boites, essai.ecrans, essai.imprimante, telechargement},
-        essai.etat,
-        essai.ecran};
+    Poste poste{{essai.dossier, essai.reglages, essai.horloge, essai.boites, essai.ecrans, essai.imprimante,
+                 telechargement, essai.vues_web},
+                essai.etat,
+                essai.ecran};
 
     Mise_A_Jour_Http()
     {

@@ -1,0 +1,32 @@
+#pragma once
+
+#include "plateforme/Vue_Web.h"
+
+#include <QWidget>
+
+#include <vector>
+
+/// Records where the views were sent and what they said, over all views in their order; a view is an empty control.
+class Vues_Web_Fausses : public Vues_Web {
+public:
+    [[nodiscard]] std::unique_ptr<Vue_Web> Nouvelle(QWidget *parent) override
+    {
+        return std::make_unique<Vue>(*this, parent);
+    }
+
+    std::vector<QString> adresses;
+    std::vector<QString> textes;
+
+private:
+    class Vue : public Vue_Web {
+    public:
+        Vue(Vues_Web_Fausses &vues, QWidget *parent) : vues_(vues), controle_(new QWidget(parent)) {}
+        QWidget *Controle() override { return controle_; }
+        void Navigue(const QString &adresse) override { vues_.adresses.push_back(adresse); }
+        void Dit(const QString &texte) override { vues_.textes.push_back(texte); }
+
+    private:
+        Vues_Web_Fausses &vues_;
+        QWidget *controle_;
+    };
+};
