@@ -20,6 +20,7 @@ inline constexpr QStringView separateur_auto = u"Separateur Auto";
 inline constexpr QStringView date_auto = u"Date Auto";
 inline constexpr QStringView annee_challenge_dfcf = u"Annee Challenge DFCF";
 inline constexpr QStringView annee_challenge_dmf = u"Annee Challenge DMF";
+inline constexpr QStringView bande_cluster = u"bande Cluster";
 inline constexpr QStringView revision_liste_wff = u"Revision_Liste_WFF";
 
 inline constexpr QStringView chemin_sauvegarde_absent = u"C:\\Sauvegarde_Vorlain";
