@@ -3,7 +3,10 @@
 #include "diplomes/ecrans/Ecran_Choix.h"
 #include "diplomes/ecrans/Ecran_Fiche.h"
 #include "diplomes/ecrans/Ecran_Liste.h"
+#include "diplomes/ecrans/Scores_DYLF.h"
 #include "diplomes/tables/Tables.h"
+
+using namespace Qt::StringLiterals;
 
 std::vector<Ecran_A_Inscrire> Ecrans_Diplomes(Poste &poste)
 {
@@ -14,5 +17,6 @@ std::vector<Ecran_A_Inscrire> Ecrans_Diplomes(Poste &poste)
         ecrans.push_back({liste->ecran.toString(), [&poste, liste] { return new Ecran_Liste(poste, *liste); }});
     for (const Choix_Diplome *choix : Choix_De_Diplomes())
         ecrans.push_back({choix->ecran.toString(), [&poste, choix] { return new Ecran_Choix(poste, *choix); }});
+    ecrans.push_back({u"Scores_DYLF"_s, [&poste] { return new Scores_DYLF(poste); }});
     return ecrans;
 }

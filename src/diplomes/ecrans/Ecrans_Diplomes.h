@@ -14,5 +14,6 @@ struct Ecran_A_Inscrire {
     std::function<QWidget *()> fabrique;
 };
 
-/// Every sheet, list and choice screen of the award tables. `poste` must outlive the makers.
+/// Every sheet, list and choice screen of the award tables, and the screens of single awards. `poste` must outlive the
+/// makers.
 std::vector<Ecran_A_Inscrire> Ecrans_Diplomes(Poste &poste);
