@@ -1,5 +1,6 @@
 #include "diplomes/ecrans/Ecrans_Diplomes.h"
 
+#include "diplomes/ecrans/Detail_DPF.h"
 #include "diplomes/ecrans/Ecran_Choix.h"
 #include "diplomes/ecrans/Ecran_Fiche.h"
 #include "diplomes/ecrans/Ecran_Liste.h"
@@ -18,5 +19,6 @@ std::vector<Ecran_A_Inscrire> Ecrans_Diplomes(Poste &poste)
     for (const Choix_Diplome *choix : Choix_De_Diplomes())
         ecrans.push_back({choix->ecran.toString(), [&poste, choix] { return new Ecran_Choix(poste, *choix); }});
     ecrans.push_back({u"Scores_DYLF"_s, [&poste] { return new Scores_DYLF(poste); }});
+    ecrans.push_back({u"Detail_DPF"_s, [&poste] { return new Detail_DPF(poste); }});
     return ecrans;
 }

@@ -17,6 +17,7 @@ constexpr std::array fiches = {
     &fiche_dlf,
     &fiche_dmf,
     &fiche_dohf,
+    &fiche_dpf,
     &fiche_dplf,
     &fiche_dvff,
     &fiche_dylf,
@@ -36,6 +37,7 @@ constexpr std::array listes = {
     &liste_dlf,
     &liste_dmf,
     &liste_dohf,
+    &liste_dpf,
     &liste_dplf,
     &liste_dvff,
     &liste_dylf,
@@ -49,6 +51,7 @@ constexpr std::array choix = {
     &choix_ddfm,
     &choix_dff,
     &choix_dohf,
+    &choix_dpf,
 };
 // clang-format on
 

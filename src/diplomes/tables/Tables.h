@@ -19,6 +19,7 @@ extern const Fiche_Diplome fiche_difm;
 extern const Fiche_Diplome fiche_dlf;
 extern const Fiche_Diplome fiche_dmf;
 extern const Fiche_Diplome fiche_dohf;
+extern const Fiche_Diplome fiche_dpf;
 extern const Fiche_Diplome fiche_dplf;
 extern const Fiche_Diplome fiche_dvff;
 extern const Fiche_Diplome fiche_dylf;
@@ -37,6 +38,7 @@ extern const Liste_Diplome liste_difm;
 extern const Liste_Diplome liste_dlf;
 extern const Liste_Diplome liste_dmf;
 extern const Liste_Diplome liste_dohf;
+extern const Liste_Diplome liste_dpf;
 extern const Liste_Diplome liste_dplf;
 extern const Liste_Diplome liste_dvff;
 extern const Liste_Diplome liste_dylf;
@@ -49,6 +51,7 @@ extern const Choix_Diplome choix_dcpf;
 extern const Choix_Diplome choix_ddfm;
 extern const Choix_Diplome choix_dff;
 extern const Choix_Diplome choix_dohf;
+extern const Choix_Diplome choix_dpf;
 
 /// Every sheet, every list and every choice screen that the frames show.
 std::span<const Fiche_Diplome *const> Fiches();

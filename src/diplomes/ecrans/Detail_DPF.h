@@ -1,0 +1,13 @@
+#pragma once
+
+#include "ecrans/Ecran.h"
+
+struct Poste;
+
+/// The provinces with their departments, as a plain list.
+class Detail_DPF : public Ecran {
+    Q_OBJECT
+
+public:
+    explicit Detail_DPF(Poste &poste);
+};
