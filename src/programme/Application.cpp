@@ -11,7 +11,18 @@
 
 using namespace Qt::StringLiterals;
 
-Application::Application(int &nombre, char **arguments) : QApplication(nombre, arguments)
+namespace {
+
+/// The web engine draws with the contexts of the windows, which has to be said before the application is there.
+int &Partage_Les_Contextes(int &nombre)
+{
+    QCoreApplication::setAttribute(Qt::AA_ShareOpenGLContexts);
+    return nombre;
+}
+
+} // namespace
+
+Application::Application(int &nombre, char **arguments) : QApplication(Partage_Les_Contextes(nombre), arguments)
 {
     // The colours of the fields go by palette, which this style follows on every desktop.
     setStyle(u"Fusion"_s);

@@ -1,14 +1,18 @@
 #include "programme/Inscriptions.h"
 
+#include "consultation/Pages_Web.h"
 #include "consultation/ecrans/Aff_Contacte.h"
+#include "consultation/ecrans/Affichage.h"
 #include "consultation/ecrans/Affiche_Toutes_Activites.h"
 #include "consultation/ecrans/Carte_Acti.h"
 #include "consultation/ecrans/Carte_Detail.h"
+#include "consultation/ecrans/Cluster.h"
 #include "consultation/ecrans/Detail_Activite.h"
 #include "consultation/ecrans/Detail_DFCF.h"
 #include "consultation/ecrans/Detail_FFF.h"
 #include "consultation/ecrans/Detail_PC.h"
 #include "consultation/ecrans/Recherche_Indicatif.h"
+#include "consultation/ecrans/Reglements.h"
 #include "diplomes/Ecran_Du_Diplome.h"
 #include "diplomes/ecrans/Ecrans_Diplomes.h"
 #include "listes/Maj_Liste.h"
@@ -60,14 +64,17 @@ void Inscrit_Ecrans(Registre &registre, Poste &poste, Vue_Saisie &vue)
     Inscrit_Ecran<Aff_Contacte>(registre, poste, u"Aff_Contacte"_s);
     Inscrit_Ecran<Affiche_Toutes_Activites>(registre, poste, u"Affiche_Toutes_Activites"_s);
     Inscrit_Ecran<Detail_Activite>(registre, poste, u"Detail_Activite"_s);
+    Inscrit_Ecran<Affichage>(registre, poste, u"Affichage"_s);
     Inscrit_Ecran<Carte_Acti>(registre, poste, u"Carte_Acti"_s);
     Inscrit_Ecran<Carte_Detail>(registre, poste, u"Carte_Detail"_s);
+    Inscrit_Ecran<Cluster>(registre, poste, u"Cluster"_s);
     Inscrit_Ecran<Detail_DFCF>(registre, poste, u"Detail_DFCF"_s);
     Inscrit_Ecran<Detail_FFF>(registre, poste, u"Detail_FFF"_s);
     Inscrit_Ecran<Detail_PC>(registre, poste, u"Detail_PC"_s);
     Inscrit_Ecran<Liste_References>(registre, poste, u"Liste_References"_s);
     Inscrit_Ecran<Multi_QSL>(registre, poste, u"Multi_QSL"_s);
     Inscrit_Ecran<Recherche_Indicatif>(registre, poste, u"Recherche_Indicatif"_s);
+    Inscrit_Ecran<Reglements>(registre, poste, u"Reglements"_s);
     Inscrit_Ecran<Sauvegarde_Log>(registre, poste, u"Sauvegarde_Log"_s);
     Inscrit_Ecran<Select_Annee>(registre, poste, u"Select_Annee"_s);
 }
@@ -85,6 +92,7 @@ void Inscrit_Commandes(Registre &registre, Poste &poste)
     commande(u"Fusion_Trelune"_s, Fusion_Trelune);
     for (const QStringView code : {u"DFCF", u"DMF"})
         registre.Inscrit_Commande(u"Fusion_Activite_"_s + code, [&poste, code] { Fusion_Activite(poste, code); });
+    commande(u"Liste_Des_Iles"_s, Liste_Des_Iles);
     commande(u"Nouvelle_Revision"_s, Nouvelle_Revision);
     // The award that Dip_A shows, opened with Enter or not; a text that is no award has no screen.
     registre.Inscrit_Commande(u"Fiche_Diplome"_s,
