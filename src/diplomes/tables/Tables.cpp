@@ -23,6 +23,7 @@ constexpr std::array fiches = {
     &fiche_dylf,
     &fiche_fff,
     &fiche_pc,
+    &fiche_tdc,
     &fiche_wlf,
 };
 constexpr std::array listes = {
@@ -43,6 +44,7 @@ constexpr std::array listes = {
     &liste_dylf,
     &liste_fff,
     &liste_pc,
+    &liste_tdc,
     &liste_wlf,
 };
 constexpr std::array choix = {
@@ -52,6 +54,7 @@ constexpr std::array choix = {
     &choix_dff,
     &choix_dohf,
     &choix_dpf,
+    &choix_tdc,
 };
 // clang-format on
 

@@ -25,6 +25,7 @@ extern const Fiche_Diplome fiche_dvff;
 extern const Fiche_Diplome fiche_dylf;
 extern const Fiche_Diplome fiche_fff;
 extern const Fiche_Diplome fiche_pc;
+extern const Fiche_Diplome fiche_tdc;
 extern const Fiche_Diplome fiche_wlf;
 
 extern const Liste_Diplome liste_daf;
@@ -44,6 +45,7 @@ extern const Liste_Diplome liste_dvff;
 extern const Liste_Diplome liste_dylf;
 extern const Liste_Diplome liste_fff;
 extern const Liste_Diplome liste_pc;
+extern const Liste_Diplome liste_tdc;
 extern const Liste_Diplome liste_wlf;
 
 extern const Choix_Diplome choix_daf;
@@ -52,6 +54,7 @@ extern const Choix_Diplome choix_ddfm;
 extern const Choix_Diplome choix_dff;
 extern const Choix_Diplome choix_dohf;
 extern const Choix_Diplome choix_dpf;
+extern const Choix_Diplome choix_tdc;
 
 /// Every sheet, every list and every choice screen that the frames show.
 std::span<const Fiche_Diplome *const> Fiches();
