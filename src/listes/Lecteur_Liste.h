@@ -10,7 +10,7 @@
 /// One record of a list as look-ups read it: the fields of a semicolon line, or the lines of a lighthouse. The texts
 /// are views into the list.
 struct Fiche_Liste {
-    std::array<QStringView, 7> champs;
+    std::array<QStringView, 10> champs;
 
     /// Counted from 1, as the fields are named.
     QStringView operator[](std::size_t champ) const { return champs[champ - 1]; }
