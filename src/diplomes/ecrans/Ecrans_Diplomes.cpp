@@ -1,6 +1,7 @@
 #include "diplomes/ecrans/Ecrans_Diplomes.h"
 
 #include "diplomes/ecrans/Detail_DPF.h"
+#include "diplomes/ecrans/Ecran_Challenge.h"
 #include "diplomes/ecrans/Ecran_Choix.h"
 #include "diplomes/ecrans/Ecran_Fiche.h"
 #include "diplomes/ecrans/Ecran_Liste.h"
@@ -20,5 +21,6 @@ std::vector<Ecran_A_Inscrire> Ecrans_Diplomes(Poste &poste)
         ecrans.push_back({choix->ecran.toString(), [&poste, choix] { return new Ecran_Choix(poste, *choix); }});
     ecrans.push_back({u"Scores_DYLF"_s, [&poste] { return new Scores_DYLF(poste); }});
     ecrans.push_back({u"Detail_DPF"_s, [&poste] { return new Detail_DPF(poste); }});
+    ecrans.push_back({u"Challenge"_s, [&poste] { return new Ecran_Challenge(poste); }});
     return ecrans;
 }
