@@ -15,7 +15,8 @@ Valeurs Toutes_Les_Valeurs()
 {
     Valeurs valeurs{Etat_Commun()};
     valeurs.Pose_Jour(QDate(2026, 11, 15), u"15/11/2026"_s);
-    for (const QStringView nom : {u"n", u"d", u"c", u"seuil_n", u"reste_n", u"reste_d", u"manque_n", u"manque_d"})
+    for (const QStringView nom :
+         {u"n", u"d", u"c", u"seuil_n", u"reste_n", u"reste_d", u"manque_n", u"manque_d", u"Challenge", u"Annee"})
         valeurs.Pose(nom, 7);
     return valeurs;
 }

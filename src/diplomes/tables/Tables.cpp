@@ -6,6 +6,7 @@ namespace {
 
 // clang-format off
 constexpr std::array fiches = {
+    &fiche_ch_dfcf,
     &fiche_daf,
     &fiche_dcf,
     &fiche_dcpf,
@@ -27,6 +28,7 @@ constexpr std::array fiches = {
     &fiche_wlf,
 };
 constexpr std::array listes = {
+    &liste_ch_dfcf,
     &liste_daf,
     &liste_dcf,
     &liste_dcpf,

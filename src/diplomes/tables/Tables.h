@@ -8,6 +8,7 @@
 
 // The awards as data, each in its own Table_<code>.cpp.
 
+extern const Fiche_Diplome fiche_ch_dfcf;
 extern const Fiche_Diplome fiche_daf;
 extern const Fiche_Diplome fiche_dcf;
 extern const Fiche_Diplome fiche_dcpf;
@@ -28,6 +29,7 @@ extern const Fiche_Diplome fiche_pc;
 extern const Fiche_Diplome fiche_tdc;
 extern const Fiche_Diplome fiche_wlf;
 
+extern const Liste_Diplome liste_ch_dfcf;
 extern const Liste_Diplome liste_daf;
 extern const Liste_Diplome liste_dcf;
 extern const Liste_Diplome liste_dcpf;
