@@ -11,6 +11,7 @@
 #include "consultation/ecrans/Detail_DFCF.h"
 #include "consultation/ecrans/Detail_FFF.h"
 #include "consultation/ecrans/Detail_PC.h"
+#include "consultation/ecrans/Detail_TDC.h"
 #include "consultation/ecrans/Recherche_Indicatif.h"
 #include "consultation/ecrans/Reglements.h"
 #include "diplomes/Ecran_Du_Diplome.h"
@@ -72,6 +73,7 @@ void Inscrit_Ecrans(Registre &registre, Poste &poste, Vue_Saisie &vue)
     Inscrit_Ecran<Detail_FFF>(registre, poste, u"Detail_FFF"_s);
     Inscrit_Ecran<Detail_PC>(registre, poste, u"Detail_PC"_s);
     Inscrit_Ecran<Liste_References>(registre, poste, u"Liste_References"_s);
+    Inscrit_Ecran<Detail_TDC>(registre, poste, u"Detail_TDC"_s);
     Inscrit_Ecran<Multi_QSL>(registre, poste, u"Multi_QSL"_s);
     Inscrit_Ecran<Recherche_Indicatif>(registre, poste, u"Recherche_Indicatif"_s);
     Inscrit_Ecran<Reglements>(registre, poste, u"Reglements"_s);
