@@ -45,8 +45,8 @@ TEST(Impression_De_Liste, le_bouton_imprime_la_liste_dans_un_PDF_page_apres_page
     Poste_De_Cent_QSO essai;
     const QString pdf = essai.fichiers.Chemin(u"liste.pdf"_s);
     Imprimante_Qt imprimante;
-    const Ports ports{essai.dossier, essai.reglages, essai.horloge,       essai.boites,
-                      essai.ecrans,  imprimante,     essai.telechargement};
+    const Ports ports{essai.dossier, essai.reglages, essai.horloge,        essai.boites,
+                      essai.ecrans,  imprimante,     essai.telechargement, essai.vues_web};
     Poste poste{ports, essai.etat, essai.ecran};
     const Ecran_Liste ecran(poste, liste_dfcf);
     impression::Pendant_Le_Dialogue([&] { conduite::Trouve<QPushButton>(ecran, u"Imprimer"_s)->click(); },
