@@ -26,22 +26,24 @@ constexpr int rien_ne_vient = 700;
 struct Serveurs {
     Serveur_Http loin;
     Serveur_Http ici;
+};
+std::unique_ptr<Serveurs> serveurs;
 
-    Serveurs()
+/// The engine reads its flags once, whichever test starts it.
+class Preparation : public ::testing::Environment {
+public:
+    void SetUp() override
     {
-        const QByteArray loin_d_ici = loin.Hote().toLatin1();
+        serveurs = std::make_unique<Serveurs>();
         qputenv("QTWEBENGINE_CHROMIUM_FLAGS", "--host-resolver-rules=\"MAP exemple.test 127.0.0.1\" "
                                               "--ip-address-space-overrides=" +
-                                                  loin_d_ici + "=public");
+                                                  serveurs->loin.Hote().toLatin1() + "=public");
     }
+    void TearDown() override { serveurs.reset(); }
 };
+const auto *const preparation = ::testing::AddGlobalTestEnvironment(new Preparation);
 
 struct Vue_Reelle : ::testing::Test {
-    // The engine reads its flags once, so all tests of a run share the servers.
-    static inline std::unique_ptr<Serveurs> serveurs;
-    static void SetUpTestSuite() { serveurs = std::make_unique<Serveurs>(); }
-    static void TearDownTestSuite() { serveurs.reset(); }
-
     Serveur_Http &serveur = serveurs->loin;
     Serveur_Http &ici = serveurs->ici;
     QWidget ecran;

@@ -16,7 +16,7 @@ Ecran_Web::Ecran_Web(Poste &poste, const QString &nom, const QString &titre)
 {
     Controle_Web()->setObjectName(u"WebBrowser1"_s);
     // Room for a page, in the measure of the font.
-    Controle_Web()->setMinimumSize(fontMetrics().averageCharWidth() * 110, fontMetrics().height() * 30);
+    Controle_Web()->setMinimumSize(fontMetrics().averageCharWidth() * 150, fontMetrics().height() * 36);
     Controle_Web()->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
 }
 
