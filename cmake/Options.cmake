@@ -2,6 +2,10 @@
 add_library(vorlain_options INTERFACE)
 target_compile_options(vorlain_options INTERFACE
     -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wsign-conversion -Wnon-virtual-dtor -Woverloaded-virtual -Werror)
+# Once it inlines, GCC 12 believes that Qt's string builder writes behind an empty string. These stay warnings.
+target_compile_options(vorlain_options INTERFACE
+    -Wno-error=stringop-overflow -Wno-error=stringop-overread -Wno-error=array-bounds -Wno-error=restrict
+    -Wno-error=maybe-uninitialized)
 target_compile_definitions(vorlain_options INTERFACE
     QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_URL_CAST_FROM_STRING QT_NO_KEYWORDS
     QT_NO_FOREACH QT_USE_QSTRINGBUILDER)
