@@ -1,5 +1,6 @@
 #include "diplomes/ADIF_Canal.h"
 
+#include "diplomes/regles/Enregistrement_ADIF.h"
 #include "log/Champ.h"
 #include "log/Chemin_Log.h"
 #include "log/Etat_Commun.h"
@@ -30,30 +31,6 @@ constexpr Champ Nom{76, 30};
 /// The reference in a row of the board, as far as it is compared.
 constexpr Champ ref_du_rang{8, 5};
 
-QStringView Bande_ADIF(QStringView bande)
-{
-    constexpr std::array<std::pair<QStringView, QStringView>, 6> connues = {{{u"3.5 Mhz", u"80m"},
-                                                                             {u"7.0 Mhz", u"40m"},
-                                                                             {u"14 Mhz", u"20m"},
-                                                                             {u"21 Mhz", u"15m"},
-                                                                             {u"28 Mhz", u"10m"},
-                                                                             {u"144 Mhz", u"2m"}}};
-    for (const auto &[connue, nom] : connues)
-        if (connue == bande)
-            return nom;
-    return {};
-}
-
-QString Date_ADIF(QStringView date)
-{
-    return u"20" + Lit(date, {7, 2}) + Lit(date, {4, 2}) + Lit(date, {1, 2});
-}
-
-QString Heure_ADIF(QStringView heure)
-{
-    return Lit(heure, {1, 2}).toString() + heure.right(2);
-}
-
 QString Entete(const QString &indicatif)
 {
     const std::array<QString, 6> lignes = {
@@ -78,22 +55,18 @@ std::map<QStringView, QStringView> Premieres_Lignes(const Lignes_Texte &lignes)
 
 QString Ligne_ADIF_Canal(QStringView ligne_log)
 {
-    QString enregistrement;
-    const auto pose = [&](QStringView etiquette, QStringView texte) {
-        const QStringView valeur = Rogne(texte);
-        enregistrement += u'<' + etiquette + u':' + QString::number(valeur.size()) + u'>' + valeur + u' ';
-    };
-    pose(u"call", Lit(ligne_log, lu::Ind));
-    pose(u"name", Lit(ligne_log, lu::Prenom));
-    pose(u"band", Bande_ADIF(Lit_Rogne(ligne_log, lu::Bande)));
-    pose(u"mode", Lit(ligne_log, lu::Mode));
-    pose(u"qso_date", Date_ADIF(Lit(ligne_log, lu::Date)));
-    pose(u"time_on", Heure_ADIF(Lit(ligne_log, lu::Heure)));
-    pose(u"rst_rcvd", Lit(ligne_log, lu::RSTR));
-    pose(u"rst_sent", Lit(ligne_log, lu::RSTE));
+    Enregistrement_ADIF enregistrement;
+    enregistrement.Pose(u"call", Lit(ligne_log, lu::Ind));
+    enregistrement.Pose(u"name", Lit(ligne_log, lu::Prenom));
+    enregistrement.Pose(u"band", Bande_En_Metres(Lit_Rogne(ligne_log, lu::Bande)));
+    enregistrement.Pose(u"mode", Lit(ligne_log, lu::Mode));
+    enregistrement.Pose(u"qso_date", Date_ADIF(Lit(ligne_log, lu::Date)));
+    enregistrement.Pose(u"time_on", Heure_ADIF(Lit(ligne_log, lu::Heure)));
+    enregistrement.Pose(u"rst_rcvd", Lit(ligne_log, lu::RSTR));
+    enregistrement.Pose(u"rst_sent", Lit(ligne_log, lu::RSTE));
     const QString commentaire = Lit_Rogne(ligne_log, lu::Ref).toString() + u' ' + Lit_Rogne(ligne_log, lu::Nom);
-    pose(u"comment", commentaire);
-    return enregistrement + u"<eor>";
+    enregistrement.Pose(u"comment", commentaire);
+    return enregistrement.Termine();
 }
 
 void ADIF_Challenge(Poste &poste, const Etat_Challenge &etat, QStringView palier)
