@@ -1,9 +1,10 @@
-# vorlain_bibliotheque(<name> FOLDER <folder under src> [SUBFOLDERS <folder>...] [DEPENDS <target>...])
+# vorlain_bibliotheque(<name> FOLDER <folder under src> [SCREENS] [SUBFOLDERS <folder>...] [DEPENDS <target>...])
 #
 # One static library from the sources of one folder. Its public include view holds links to its own headers only, under
-# the folder's path ("log/Ligne_Log.h"), so that a header of a library which is not among DEPENDS cannot be included.
+# the folder's path ("log/Ligne_Log.h"), so that a header of a library which is not among DEPENDS cannot be included. SCREENS
+# says that its sources know widgets.
 function(vorlain_bibliotheque nom)
-    cmake_parse_arguments(BIB "" "FOLDER" "SUBFOLDERS;DEPENDS" ${ARGN})
+    cmake_parse_arguments(BIB "SCREENS" "FOLDER" "SUBFOLDERS;DEPENDS" ${ARGN})
     set(vue ${PROJECT_BINARY_DIR}/inclure/${nom})
     set(sources "")
     foreach(dossier IN ITEMS ${BIB_FOLDER} LISTS BIB_SUBFOLDERS)
@@ -31,4 +32,9 @@ function(vorlain_bibliotheque nom)
     add_library(${nom} STATIC ${sources})
     target_include_directories(${nom} PUBLIC ${vue})
     target_link_libraries(${nom} PRIVATE vorlain_options PUBLIC ${BIB_DEPENDS})
+    if(BIB_SCREENS)
+        vorlain_entetes(${nom} ecrans)
+    else()
+        vorlain_entetes(${nom} coeur)
+    endif()
 endfunction()
