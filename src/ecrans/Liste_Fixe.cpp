@@ -7,8 +7,27 @@
 #include <QScrollBar>
 #include <QStyle>
 
+#include <algorithm>
 #include <memory>
 #include <utility>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// The families to ask for, best first. A name that no font bears can lead to a proportional one, whatever hints go
+/// with it: where none of the known families is installed, one that really is fixed stands behind them.
+QStringList Familles_Fixes()
+{
+    QStringList familles = {u"Letter Gothic"_s, u"DejaVu Sans Mono"_s, u"Liberation Mono"_s};
+    if (std::none_of(familles.cbegin(), familles.cend(), QFontDatabase::hasFamily))
+        for (const QString &famille : QFontDatabase::families(QFontDatabase::Latin))
+            if (QFontDatabase::isFixedPitch(famille) && QFontDatabase::isSmoothlyScalable(famille))
+                familles << famille;
+    return familles;
+}
+
+} // namespace
 
 class Liste_Fixe::Modele : public QAbstractListModel {
 public:
@@ -121,7 +140,8 @@ QSize Liste_Fixe::sizeHint() const
 
 QFont Liste_Fixe::Police()
 {
-    QFont police = QFontDatabase::systemFont(QFontDatabase::FixedFont);
+    QFont police;
+    police.setFamilies(Familles_Fixes());
     police.setStyleHint(QFont::Monospace);
     police.setFixedPitch(true);
     // The widest list, with its 126 columns and a scroll bar, fits 1366 pixels at 96 dots an inch.

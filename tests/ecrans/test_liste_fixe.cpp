@@ -4,6 +4,7 @@
 
 #include <gtest/gtest.h>
 
+#include <QFontInfo>
 #include <QLabel>
 #include <QScrollBar>
 
@@ -194,6 +195,14 @@ TEST_F(Liste, tous_les_caracteres_ont_la_meme_largeur)
     const QFontMetrics metrique(liste.font());
     for (const QChar caractere : u"iMW é'*/1"_s)
         EXPECT_EQ(metrique.horizontalAdvance(caractere), metrique.horizontalAdvance(u'M'));
+}
+
+TEST_F(Liste, demande_Letter_Gothic_puis_ce_que_les_bureaux_ont)
+{
+    const QStringList familles = liste.font().families();
+    ASSERT_GE(familles.size(), 3);
+    EXPECT_EQ(familles.first(3), (QStringList{u"Letter Gothic"_s, u"DejaVu Sans Mono"_s, u"Liberation Mono"_s}));
+    EXPECT_TRUE(QFontInfo(liste.font()).fixedPitch());
 }
 
 TEST_F(Liste, l_en_tete_suit_les_colonnes)
