@@ -17,13 +17,13 @@ void Charge_Log(Poste &poste, QStringView code)
     const QString nom = Chemin_Log(poste.etat, code);
     Lignes_Texte lignes = poste.dossier.Lit_Lignes(nom);
     const auto conversion = [&](QStringView ancienne) { return Ancienne_Ref_TDC(poste.dossier, ancienne); };
-    const std::optional<QString> texte = Migre(code, lignes, conversion);
-    if (texte) {
-        poste.dossier.Remplace(nom, *texte, u"Temporaire.txt"_s);
-        lignes = Lignes_Texte(*texte);
-    }
-    poste.ecran.Remplit_Liste(std::move(lignes));
-    if (texte && code == u"FFF")
+    const std::optional<Log_Migre> migre = Migre(code, lignes, conversion);
+    const bool a_reecrire = migre && migre->a_reecrire;
+    // Shown before it is written: a disk that refuses leaves the log on screen at start.
+    poste.ecran.Remplit_Liste(migre ? Lignes_Texte(migre->texte) : std::move(lignes));
+    if (a_reecrire)
+        poste.dossier.Remplace(nom, migre->texte, u"Temporaire.txt"_s);
+    if (a_reecrire && code == u"FFF")
         poste.boites.Message(u"Mettez à jour la liste FFF (Outils puis Mise à jour des références FFF)"_s);
     poste.ecran.Active_Ind_A();
 }

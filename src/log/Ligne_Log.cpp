@@ -1,5 +1,7 @@
 #include "log/Ligne_Log.h"
 
+#include <algorithm>
+
 namespace col = colonnes_log;
 
 Champs_QSO Champs_Log(QStringView ligne_log)
@@ -40,6 +42,22 @@ QString Compose_Ligne_Log(const Champs_QSO &champs)
     pose(champs.nom, col::Nom, 1);
     pose(champs.qsl, col::QSL, 0);
     return ligne;
+}
+
+QString Recompose(QStringView ligne_log)
+{
+    QString ligne(col::longueur, u' ');
+    for (const Champ champ : col::champs) {
+        const QStringView texte = Lit(ligne_log, champ);
+        std::copy(texte.begin(), texte.end(), ligne.begin() + champ.colonne - 1);
+    }
+    return ligne;
+}
+
+bool Memes_Champs(QStringView ligne_log, QStringView autre)
+{
+    return std::all_of(col::champs.begin(), col::champs.end(),
+                       [&](Champ champ) { return Lit_Rogne(ligne_log, champ) == Lit_Rogne(autre, champ); });
 }
 
 bool Est_Confirme(QStringView ligne_log)

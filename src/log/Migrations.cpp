@@ -2,6 +2,9 @@
 
 #include "log/Ligne_Log.h"
 
+#include <algorithm>
+#include <vector>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -23,7 +26,7 @@ std::optional<QString> Ref_DOHF(QStringView dpt, QStringView ref)
     return dpt + ref.first(qMin(qsizetype{8}, ref.size()));
 }
 
-/// The forms without a dash: 3 to 5 characters, the first two being the department.
+/// The forms without a dash: 3 to 5 characters, the first two being the department. Others lose the blanks before them.
 std::optional<QString> Tiret_TDC(QStringView ref)
 {
     const QStringView texte = Rogne(ref);
@@ -35,7 +38,7 @@ std::optional<QString> Tiret_TDC(QStringView ref)
     case 5:
         return texte.first(2) + u'-' + texte.last(3);
     default:
-        return std::nullopt;
+        return ref.startsWith(texte) ? std::nullopt : std::optional(texte.toString());
     }
 }
 
@@ -87,32 +90,47 @@ Regle Regle_Migration(QStringView code, const Conversion_TDC &conversion)
     return {};
 }
 
-QString Avec_Ref(QStringView ligne, QStringView ref)
+struct Ref_Changee {
+    std::size_t rang;
+    QString ref;
+};
+
+std::vector<Ref_Changee> Refs_Changees(const Lignes_Texte &lignes, const Regle &regle)
 {
-    Champs_QSO champs = Champs_Log(ligne);
-    champs.ref = Ajuste(ref, col::Ref.largeur);
-    return Compose_Ligne_Log(champs);
+    std::vector<Ref_Changee> changees;
+    for (std::size_t rang = 0; rang < lignes.size(); ++rang)
+        if (std::optional<QString> ref = regle(Lit(lignes[rang], col::Dpt), Lit(lignes[rang], col::Ref)))
+            changees.push_back({rang, *std::move(ref)});
+    return changees;
+}
+
+/// All lines composed anew, those of `changees`, which are in the order of the lines, with their new references.
+QString Recomposees(const Lignes_Texte &lignes, const std::vector<Ref_Changee> &changees)
+{
+    QString texte;
+    texte.reserve(static_cast<qsizetype>(lignes.size()) * (col::longueur + fin_de_ligne.size()));
+    auto changee = changees.begin();
+    for (std::size_t rang = 0; rang < lignes.size(); ++rang) {
+        QString ligne = Recompose(lignes[rang]);
+        if (changee != changees.end() && changee->rang == rang)
+            ligne.replace(col::Ref.colonne - 1, col::Ref.largeur, Ajuste((changee++)->ref, col::Ref.largeur));
+        texte.append(ligne).append(fin_de_ligne);
+    }
+    return texte;
 }
 
 } // namespace
 
-std::optional<QString> Migre(QStringView code, const Lignes_Texte &lignes, const Conversion_TDC &conversion)
+std::optional<Log_Migre> Migre(QStringView code, const Lignes_Texte &lignes, const Conversion_TDC &conversion)
 {
     const Regle regle = Regle_Migration(code, conversion);
     if (!regle)
         return std::nullopt;
-    QString texte;
-    bool change = false;
-    for (const QStringView ligne : lignes) {
-        const std::optional<QString> ref = regle(Lit(ligne, col::Dpt), Lit(ligne, col::Ref));
-        if (ref)
-            texte += Avec_Ref(ligne, *ref);
-        else
-            texte += ligne;
-        texte += fin_de_ligne;
-        change = change || ref;
-    }
-    if (!change)
+    const std::vector<Ref_Changee> changees = Refs_Changees(lignes, regle);
+    if (changees.empty())
         return std::nullopt;
-    return texte;
+    const bool a_reecrire = std::any_of(changees.begin(), changees.end(), [&](const Ref_Changee &changee) {
+        return changee.ref != Lit_Rogne(lignes[changee.rang], col::Ref);
+    });
+    return Log_Migre{Recomposees(lignes, changees), a_reecrire};
 }

@@ -10,6 +10,12 @@
 /// Gives the new form of a TDC reference of the oldest form, or nullopt.
 using Conversion_TDC = std::function<std::optional<QString>(QStringView ancienne)>;
 
-/// The text of a log of `code` whose references were carried over to their present forms, or nullopt if none had to be.
-/// Lines whose reference stays are taken over as they are.
-std::optional<QString> Migre(QStringView code, const Lignes_Texte &lignes, const Conversion_TDC &conversion);
+/// A log with its references in their present forms, each line composed anew from its fields.
+struct Log_Migre {
+    QString texte;
+    /// A reference is another one now: the file must be written again. Blanks around one that go do not ask for it.
+    bool a_reecrire = false;
+};
+
+/// nullopt if every reference of a log of `code` has its present form.
+std::optional<Log_Migre> Migre(QStringView code, const Lignes_Texte &lignes, const Conversion_TDC &conversion);

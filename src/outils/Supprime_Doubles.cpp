@@ -53,7 +53,7 @@ QString Texte_Sans_Doubles(const Lignes_Texte &lignes)
     QString texte;
     for (std::size_t rang = 0; rang < lignes.size(); ++rang)
         if (gardees[rang])
-            texte.append(lignes[rang]).append(fin_de_ligne);
+            texte.append(Recompose(lignes[rang])).append(fin_de_ligne);
     return texte;
 }
 

@@ -105,6 +105,25 @@ TEST_F(Chargement, une_tour_de_six_caracteres_ne_touche_pas_le_fichier)
     EXPECT_EQ(Octets(u"TDC"_s), octets);
 }
 
+TEST_F(Chargement, une_tour_precedee_de_blancs_se_montre_sans_eux_et_le_fichier_reste)
+{
+    Pose(u"TDC"_s, {QSO({.ref = u"  11-008"_s})});
+    Charge_Log(essai.poste, u"TDC");
+    EXPECT_EQ(essai.ecran.liste[0], QSO({.ref = u"11-008"_s}));
+    EXPECT_EQ(Octets(u"TDC"_s), Texte_Log({QSO({.ref = u"  11-008"_s})}).toLatin1());
+}
+
+TEST_F(Chargement, une_reference_qui_change_fait_recomposer_tout_le_log)
+{
+    QString deborde = QSO({.dpt = u"97"_s, .ref = u"0052"_s});
+    deborde[15] = u'1';
+    Pose(u"FFF"_s, {deborde + u" et la suite", Rogne(QSO({.ref = u"0053"_s})).toString(), QSO({.ref = u"51"_s})});
+    Charge_Log(essai.poste, u"FFF");
+    EXPECT_EQ(Octets(u"FFF"_s),
+              Texte_Log({QSO({.dpt = u"97"_s, .ref = u"0052"_s}), QSO({.ref = u"0053"_s}), QSO({.ref = u"0051"_s})})
+                  .toLatin1());
+}
+
 TEST_F(Chargement, une_tour_de_la_premiere_forme_est_cherchee_dans_la_liste)
 {
     essai.fichiers.Pose(u"Liste_TDC.csv"_s, "Rev 001 01/01/12;;;;;;;\r\n108;11;1;Tour;Ligne;F;TC1108;\r\n");
@@ -153,11 +172,12 @@ TEST_F(Chargement, un_log_absent_vide_la_liste_et_se_dit)
     EXPECT_TRUE(essai.ecran.appels.empty());
 }
 
-TEST_F(Chargement, une_reecriture_refusee_garde_le_log)
+TEST_F(Chargement, une_reecriture_refusee_garde_le_log_et_le_montre)
 {
     Pose(u"FFF"_s, {QSO({.ref = u"51"_s})});
     ASSERT_TRUE(QDir(essai.fichiers.Chemin()).mkdir(u"Temporaire.txt"_s));
     EXPECT_TRUE(Echec([&] { Charge_Log(essai.poste, u"FFF"); }));
+    EXPECT_EQ(Refs(), QStringList{u"0051"_s});
     EXPECT_EQ(Octets(u"FFF"_s), Texte_Log({QSO({.ref = u"51"_s})}).toLatin1());
     EXPECT_TRUE(essai.boites.messages.empty());
 }

@@ -51,6 +51,44 @@ TEST(Ligne_Log, les_champs_relus_gardent_leurs_blancs)
     EXPECT_EQ(champs.qsl, u" "_s);
 }
 
+TEST(Ligne_Log, recomposer_ne_garde_que_les_douze_champs)
+{
+    const QString pleine = QSO({.ind = u"TM5CHATEAUX1"_s,
+                                .dpt = u"77"_s,
+                                .prenom = u"JEAN-CHRISTOPHE"_s,
+                                .ref = u"GVM1800123"_s,
+                                .bande = u"144 Mhz"_s,
+                                .rstr = u"599"_s,
+                                .rste = u"579"_s,
+                                .nom = QString(30, u'N'),
+                                .qsl = u"*"_s});
+    QString ratures = pleine;
+    for (const int colonne : {13, 16, 17, 18, 34, 53, 59, 63, 71, 75, 79, 110})
+        ratures[colonne - 1] = u'#';
+    EXPECT_EQ(Recompose(QString(ratures + u"# et la suite")), pleine);
+    EXPECT_EQ(Recompose(pleine), pleine);
+}
+
+TEST(Ligne_Log, recomposer_rend_ses_blancs_a_une_ligne_courte)
+{
+    EXPECT_EQ(Recompose(QSO({.nom = u"C. É"_s}).first(83)), QSO({.nom = u"C. É"_s}));
+    EXPECT_EQ(Recompose(u"F5"), u"F5"_s + QString(109, u' '));
+    EXPECT_EQ(Recompose(u""), QString(111, u' '));
+}
+
+TEST(Ligne_Log, les_memes_champs_font_le_meme_qso)
+{
+    const QString ligne = QSO({.dpt = u"77"_s, .ref = u"77001"_s, .nom = u"C. DE VAUX"_s});
+    EXPECT_TRUE(Memes_Champs(ligne, ligne));
+    EXPECT_TRUE(Memes_Champs(Rogne(ligne), ligne));
+    EXPECT_TRUE(Memes_Champs(ligne, QString(ligne + u" et la suite")));
+    EXPECT_TRUE(Memes_Champs(QString(ligne).replace(15, 3, u"###"_s), ligne));
+    // Whoever compares a field drops the blanks around it.
+    EXPECT_TRUE(Memes_Champs(QSO({.ref = u" 77001"_s}), QSO({.ref = u"77001"_s})));
+    for (const Champ champ : colonnes_log::champs)
+        EXPECT_FALSE(Memes_Champs(QString(ligne).replace(champ.colonne - 1, 1, u"#"_s), ligne)) << champ.colonne;
+}
+
 TEST(Ligne_Log, seule_l_etoile_de_la_colonne_111_confirme)
 {
     EXPECT_TRUE(Est_Confirme(QSO({.qsl = u"*"_s})));

@@ -11,10 +11,12 @@ namespace {
 
 const Conversion_TDC sans_liste = [](QStringView) -> std::optional<QString> { return std::nullopt; };
 
+/// The text that the file becomes; nullopt if it stays.
 std::optional<QString> Migre_Lignes(QStringView code, const std::vector<QString> &lignes,
                                     const Conversion_TDC &conversion = sans_liste)
 {
-    return Migre(code, Lignes_Texte(Texte_Log(lignes)), conversion);
+    const std::optional<Log_Migre> migre = Migre(code, Lignes_Texte(Texte_Log(lignes)), conversion);
+    return migre && migre->a_reecrire ? std::optional(migre->texte) : std::nullopt;
 }
 
 /// The Ref field of one line after its migration, with its blanks; nullopt if nothing changes.
@@ -66,6 +68,25 @@ TEST(Migrations_TDC, une_autre_longueur_reste)
 {
     for (const QString &ref : {u"11-008"_s, u""_s, u"1"_s, u"11"_s, u"11-0088"_s})
         EXPECT_EQ(Ref_Migree(u"TDC", u"11"_s, ref), std::nullopt) << ref.toStdString();
+}
+
+TEST(Migrations_TDC, les_blancs_de_devant_s_en_vont_de_la_liste_mais_pas_du_fichier)
+{
+    const auto migre = Migre(u"TDC", Lignes_Texte(Texte_Log({QSO({.ref = u"  11-008"_s}), QSO({})})), sans_liste);
+    ASSERT_TRUE(migre);
+    EXPECT_EQ(migre->texte, Texte_Log({QSO({.ref = u"11-008"_s}), QSO({})}));
+    EXPECT_FALSE(migre->a_reecrire);
+}
+
+TEST(Migrations_TDC, seules_les_deux_lettres_tc_font_une_ancienne_reference)
+{
+    const Conversion_TDC liste = [](QStringView ancienne) -> std::optional<QString> {
+        ADD_FAILURE() << ancienne.toString().toStdString();
+        return u"11-108"_s;
+    };
+    EXPECT_EQ(Ref_Migree(u"TDC", u"11"_s, u"TX12"_s, liste), u"TX-012    "_s);
+    EXPECT_EQ(Ref_Migree(u"TDC", u"11"_s, u"TX1108"_s, liste), std::nullopt);
+    EXPECT_EQ(Ref_Migree(u"TDC", u"11"_s, u"AC1108"_s, liste), std::nullopt);
 }
 
 TEST(Migrations_TDC, l_ancienne_forme_passe_par_la_liste)
@@ -139,7 +160,7 @@ TEST(Migrations, les_autres_diplomes_ne_changent_rien)
             EXPECT_EQ(Ref_Migree(code, u"45"_s, ref), std::nullopt);
 }
 
-TEST(Migrations, les_autres_champs_et_les_autres_lignes_restent)
+TEST(Migrations, toutes_les_lignes_sont_composees_de_leurs_champs)
 {
     const QString ancienne = QSO({.ind = u"F5ABC/P"_s,
                                   .dpt = u"45"_s,
@@ -147,11 +168,18 @@ TEST(Migrations, les_autres_champs_et_les_autres_lignes_restent)
                                   .ref = u"EC102"_s,
                                   .nom = u"BARRAGE DE L'ÉTÉ"_s,
                                   .qsl = u"*"_s});
-    const QString gardee = QSO({.dpt = u"45"_s, .ref = u"45EC103"_s}) + u" et une suite";
-    const QString courte = u"F5ABC        45   "_s;
+    const QString pleine = QSO({.dpt = u"45"_s, .ref = u"45EC103"_s});
+    QString deborde = pleine;
+    deborde[15] = u'1';
     QString nouvelle = ancienne;
     nouvelle.replace(34, 7, u"45EC102"_s);
-    EXPECT_EQ(Migre_Lignes(u"DOHF", {gardee, ancienne, courte, u""_s}), Texte_Log({gardee, nouvelle, courte, u""_s}));
+    EXPECT_EQ(Migre_Lignes(u"DOHF", {deborde + u" et une suite", ancienne, u"F5ABC        45   "_s, u""_s}),
+              Texte_Log({pleine, nouvelle, Complete(u"F5ABC        45", 111), QString(111, u' ')}));
+}
+
+TEST(Migrations, sans_ancienne_reference_aucune_ligne_ne_change)
+{
+    EXPECT_EQ(Migre_Lignes(u"DOHF", {QSO({.ref = u"45EC103"_s}) + u" et une suite", u"court"_s}), std::nullopt);
 }
 
 TEST(Migrations, une_seconde_fois_ne_change_rien)

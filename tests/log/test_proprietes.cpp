@@ -15,9 +15,7 @@ namespace {
 QString Ligne_Quelconque(Logs_Au_Hasard &hasard)
 {
     QString ligne = QSO({});
-    for (const Champ champ : {colonnes_log::Ind, colonnes_log::Dpt, colonnes_log::Prenom, colonnes_log::Ref,
-                              colonnes_log::Date, colonnes_log::Heure, colonnes_log::Mode, colonnes_log::Bande,
-                              colonnes_log::RSTR, colonnes_log::RSTE, colonnes_log::Nom, colonnes_log::QSL})
+    for (const Champ champ : colonnes_log::champs)
         for (qsizetype i = 0; i < champ.largeur; ++i) {
             const auto octet = static_cast<char16_t>(hasard.Nombre(255));
             ligne[champ.colonne - 1 + i] = octet == u'\r' || octet == u'\n' ? u' ' : QChar(octet);
@@ -51,6 +49,20 @@ TEST(Proprietes, afficher_puis_ranger_est_l_identite)
         ASSERT_EQ(entree.size(), colonnes_affichage::longueur);
         ASSERT_EQ(Ligne_Log_Affichee(entree), ligne);
         ASSERT_EQ(Compose_Ligne_Log(Champs_Log(ligne)), ligne);
+        ASSERT_EQ(Recompose(ligne), ligne);
+    }
+}
+
+TEST(Proprietes, recomposer_est_passer_par_la_liste)
+{
+    Logs_Au_Hasard hasard(6);
+    for (int i = 0; i < 2000; ++i) {
+        QString ligne = Ligne_Quelconque(hasard) + u"suite";
+        for (QChar &caractere : ligne)
+            if (hasard.Nombre(9) == 0)
+                caractere = u'#';
+        ligne.truncate(hasard.Nombre(116));
+        ASSERT_EQ(Recompose(ligne), Ligne_Log_Affichee(Ligne_Affichage(1, ligne))) << ligne.toStdString();
     }
 }
 
@@ -120,7 +132,8 @@ TEST(Proprietes, migrer_ne_touche_que_la_reference)
             ligne.replace(34, 10, Complete(anciennes[static_cast<std::size_t>(hasard.Nombre(7))], 10));
         const auto texte = Migre(code, Lignes_Texte(Texte_Log(lignes)), liste);
         ASSERT_TRUE(texte);
-        std::vector<QString> migrees = En_Lignes(*texte);
+        ASSERT_TRUE(texte->a_reecrire);
+        std::vector<QString> migrees = En_Lignes(texte->texte);
         ASSERT_EQ(migrees.size(), lignes.size());
         for (std::size_t rang = 0; rang < lignes.size(); ++rang) {
             ASSERT_EQ(migrees[rang].size(), colonnes_log::longueur);

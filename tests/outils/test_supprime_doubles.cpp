@@ -77,6 +77,31 @@ TEST(Supprime_Doubles, une_reference_plus_longue_n_est_pas_un_double)
     EXPECT_EQ(Sans_Doubles({b, a}), (std::vector{b, a}));
 }
 
+TEST(Supprime_Doubles, deux_references_de_dix_caracteres_different_par_le_dernier)
+{
+    const QString a = QSO({.ref = u"GVM1800123"_s});
+    const QString b = QSO({.ref = u"GVM1800124"_s});
+    EXPECT_EQ(Sans_Doubles({a, b}), (std::vector{a, b}));
+    EXPECT_EQ(Sans_Doubles({b, a}), (std::vector{b, a}));
+}
+
+TEST(Supprime_Doubles, ce_qui_deborde_des_colonnes_s_en_va)
+{
+    QString deborde = QSO({.dpt = u"97"_s, .ref = u"97101"_s});
+    deborde[15] = u'1';
+    const QString courte = QSO({.ref = u"97102"_s, .nom = u"C. DE VAUX"_s}).first(89);
+    EXPECT_EQ(
+        Sans_Doubles({deborde + u" et la suite", courte}),
+        (std::vector{QSO({.dpt = u"97"_s, .ref = u"97101"_s}), QSO({.ref = u"97102"_s, .nom = u"C. DE VAUX"_s})}));
+}
+
+TEST(Supprime_Doubles, une_date_hors_format_reste_comme_elle_est)
+{
+    // Only the sort composes date and time anew.
+    const QString ligne = QSO({.ref = u"97101"_s, .date = u"12-05.XX"_s, .heure = u"14h48"_s});
+    EXPECT_EQ(Sans_Doubles({ligne}), std::vector{ligne});
+}
+
 TEST(Supprime_Doubles, les_blancs_autour_d_une_reference_ne_comptent_pas)
 {
     const QString a = QSO({.ref = u" 93013"_s});

@@ -65,7 +65,7 @@ TEST(Trie_Log, une_annee_qui_n_est_pas_un_nombre_compte_pour_00)
     const QString a = QSO({.date = u"31/12/99"_s});
     const QString b = QSO({.date = u"01/01/XX"_s});
     const QString c = QSO({.date = u"01/01/01"_s});
-    EXPECT_EQ(Tries({c, b, a}), (std::vector{a, b, c}));
+    EXPECT_EQ(Tries({c, b, a}), (std::vector{a, QSO({.date = u"01/01/00"_s}), c}));
 }
 
 TEST(Trie_Log, la_cle_de_tri_est_la_ligne_de_travail)
@@ -84,11 +84,37 @@ TEST(Trie_Log, la_cle_de_tri_est_la_ligne_de_travail)
     EXPECT_EQ(cle.size(), 116);
 }
 
-TEST(Trie_Log, des_lignes_hors_format_ne_perdent_rien)
+TEST(Trie_Log, ce_qui_deborde_des_colonnes_s_en_va)
 {
-    const std::vector<QString> lignes{u""_s, u"court"_s, QSO({}) + u" et la suite", QString(QChar(0)), QSO({})};
-    std::vector<QString> tries = Tries(lignes);
-    EXPECT_TRUE(std::is_permutation(tries.begin(), tries.end(), lignes.begin(), lignes.end()));
+    // A department of three characters runs into the blanks behind its columns; a hand left words behind the last one.
+    QString deborde = QSO({.dpt = u"97"_s, .ref = u"97101"_s});
+    deborde[15] = u'1';
+    EXPECT_EQ(Tries({deborde + u" et la suite"}), std::vector{QSO({.dpt = u"97"_s, .ref = u"97101"_s})});
+}
+
+TEST(Trie_Log, une_ligne_qui_a_perdu_ses_derniers_blancs_les_retrouve)
+{
+    const QString pleine = QSO({.ref = u"77001"_s, .nom = u"C. DE VAUX"_s});
+    EXPECT_EQ(Tries({Rogne(pleine).toString()}), std::vector{pleine});
+}
+
+TEST(Trie_Log, la_date_et_l_heure_retrouvent_leurs_separateurs)
+{
+    EXPECT_EQ(Tries({QSO({.date = u"12-05.07"_s, .heure = u"14h48"_s})}), std::vector{QSO({})});
+}
+
+TEST(Trie_Log, des_lignes_hors_format_gardent_chacune_leur_place)
+{
+    const QString vide = QSO({.ind = u""_s,
+                              .date = u"  /  /00"_s,
+                              .heure = u"  :  "_s,
+                              .mode = u""_s,
+                              .bande = u""_s,
+                              .rstr = u""_s,
+                              .rste = u""_s});
+    EXPECT_EQ(
+        Tries({QSO({}), u""_s, u"court"_s, QString(QChar(0))}),
+        (std::vector{QString(vide).replace(0, 1, QChar(0)), vide, QString(vide).replace(0, 5, u"court"_s), QSO({})}));
 }
 
 TEST(Trie_Log, trier_est_une_permutation_et_trier_deux_fois_ne_change_rien)
