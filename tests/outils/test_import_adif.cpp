@@ -266,6 +266,25 @@ TEST_F(Import, un_bak_sans_log_est_retabli_aussi_avant_un_ajout)
     EXPECT_FALSE(essai.fichiers.Existe(u"F9ZZY_DFCF.bak"_s));
 }
 
+TEST_F(Import, un_bak_a_cote_d_un_log_ne_touche_pas_au_log)
+{
+    essai.fichiers.Pose(u"F9ZZY_DFCF.bak"_s, Texte_Log({QSO({.ind = u"F2BAK"_s, .ref = u"02002"_s})}).toLatin1());
+    Choisit({ADIF({})});
+    Lance(ajoute);
+    EXPECT_EQ(Log(), (Textes{Ancienne(), Nouvelle()}));
+    EXPECT_EQ(Log(u"F9ZZY_DFCF.bak"_s), Textes{QSO({.ind = u"F2BAK"_s, .ref = u"02002"_s})});
+    EXPECT_TRUE(essai.boites.messages.empty());
+}
+
+TEST_F(Import, un_departement_de_trois_caracteres_ne_laisse_rien_entre_les_colonnes)
+{
+    Choisit({ADIF({.state = u"971"_s, .sig = u"97101"_s})});
+    Lance(remplace);
+    ASSERT_EQ(Log().size(), 1U);
+    EXPECT_EQ(Log()[0].sliced(13, 5), u"97   "_s);
+    EXPECT_EQ(Log()[0].size(), colonnes_log::longueur);
+}
+
 TEST_F(Import, un_log_qui_ne_peut_pas_etre_ecrit_en_remplacement_reste_absent_a_cote_de_son_bak)
 {
     Choisit({ADIF({})});

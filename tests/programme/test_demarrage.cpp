@@ -122,6 +122,21 @@ TEST_F(Demarrage, un_log_qui_manque_est_cree_vide_et_les_autres_restent)
     EXPECT_FALSE(fichiers.Existe(u"F9ZZY_DMF.log"_s)) << "only the seven later awards are carried over";
 }
 
+TEST_F(Demarrage, les_sept_logs_venus_avec_les_versions_sont_crees_vides)
+{
+    Installe_Station(u"DFCF"_s);
+    for (const QStringView code : codes_diplome)
+        if (code != u"DFCF")
+            QFile::remove(fichiers.Chemin(u"F9ZZY_"_s + code + u".log"));
+    Ouvre();
+    for (const QString &nom : {u"F9ZZY_DFF.log"_s, u"F9ZZY_DVFF.log"_s, u"F9ZZY_WLF.log"_s, u"F9ZZY_DYLF.log"_s,
+                               u"F9ZZY_DDFM.log"_s, u"F9ZZY_DPF.log"_s, u"F9ZZY_PC.log"_s}) {
+        ASSERT_TRUE(fichiers.Existe(nom)) << nom.toStdString();
+        EXPECT_EQ(fichiers.Octets(nom), QByteArray()) << nom.toStdString();
+    }
+    EXPECT_EQ(QDir(fichiers.Chemin()).entryList({u"*.log"_s}).size(), 8);
+}
+
 TEST_F(Demarrage, un_log_de_depart_absent_laisse_la_liste_vide)
 {
     Installe_Station(u"DFCF"_s);
@@ -129,6 +144,19 @@ TEST_F(Demarrage, un_log_de_depart_absent_laisse_la_liste_vide)
     EXPECT_TRUE(Ouvre().empty());
     EXPECT_TRUE(QSO_Affiches().empty());
     EXPECT_TRUE(Ecran().isVisible());
+}
+
+TEST_F(Demarrage, un_log_migre_qui_ne_peut_pas_etre_reecrit_est_a_l_ecran)
+{
+    Installe_Station(u"FFF"_s);
+    const QByteArray octets = QSO({.ref = u"51"_s}).toLatin1() + "\r\n";
+    fichiers.Pose(u"F9ZZY_FFF.log"_s, octets);
+    // A folder in the temporary's place: the rewrite fails.
+    ASSERT_TRUE(QDir(fichiers.Chemin()).mkdir(u"Temporaire.txt"_s));
+    EXPECT_TRUE(Ouvre().empty());
+    ASSERT_EQ(QSO_Affiches().size(), 1U);
+    EXPECT_TRUE(QSO_Affiches()[0].contains(u" 0051  "_s));
+    EXPECT_EQ(fichiers.Octets(u"F9ZZY_FFF.log"_s), octets);
 }
 
 TEST_F(Demarrage, un_indice_hors_de_sa_liste_laisse_le_choix_comme_il_est)
