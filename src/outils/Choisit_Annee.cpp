@@ -8,6 +8,7 @@
 #include "log/Reglages_Station.h"
 #include "plateforme/Boites.h"
 #include "plateforme/Dossier.h"
+#include "plateforme/Ecrans.h"
 #include "plateforme/Tolere.h"
 
 using namespace Qt::StringLiterals;
@@ -54,5 +55,6 @@ bool Choisit_Annee(Poste &poste, const QString &annee)
     (Est_DMF(poste.etat) ? poste.etat.annee_ch_dmf : poste.etat.annee_ch_dfcf) = annee;
     Tolere([&] { Ecrit_Station(poste, Cle_Annee(poste.etat), annee); });
     Tolere([&] { Charge_Log(poste, poste.etat.diplome); });
+    poste.ecrans.Suit_Le_Log();
     return true;
 }

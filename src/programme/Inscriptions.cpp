@@ -41,11 +41,12 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// A screen that is made from the operating position alone, under its own name.
+/// Screens that are made from the operating position alone.
 template <typename Screen>
-void Inscrit_Ecran(Registre &registre, Poste &poste, const QString &nom)
+void Inscrit_Ecran(Registre &registre, Poste &poste, const QString &nom, Reouverture reouverture = Reouverture::Refaite,
+                   Attache attache = Attache::Libre)
 {
-    registre.Inscrit_Ecran(nom, [&poste] { return new Screen(poste); });
+    registre.Inscrit_Ecran({nom, [&poste] { return new Screen(poste); }, reouverture, attache});
 }
 
 void Inscrit_Annee_Challenge(Registre &registre, Poste &poste, const QString &commande, const QString &genre)
@@ -58,23 +59,24 @@ void Inscrit_Annee_Challenge(Registre &registre, Poste &poste, const QString &co
 
 void Inscrit_Ecrans(Registre &registre, Poste &poste, Vue_Saisie &vue)
 {
-    registre.Inscrit_Ecran(u"Station"_s, [&poste, &vue] { return new Station(poste, vue); });
-    for (const Ecran_A_Inscrire &ecran : Ecrans_Diplomes(poste))
-        registre.Inscrit_Ecran(ecran.nom, ecran.fabrique);
+    using enum Reouverture;
+    registre.Inscrit_Ecran({u"Station"_s, [&poste, &vue] { return new Station(poste, vue); }});
+    for (const Inscription &ecran : Ecrans_Diplomes(poste))
+        registre.Inscrit_Ecran(ecran);
+    Inscrit_Ecran<Detail_DFCF>(registre, poste, u"Detail_DFCF"_s, Telle_Quelle);
+    Inscrit_Ecran<Detail_FFF>(registre, poste, u"Detail_FFF"_s, Telle_Quelle);
+    Inscrit_Ecran<Detail_PC>(registre, poste, u"Detail_PC"_s, Telle_Quelle);
+    Inscrit_Ecran<Detail_TDC>(registre, poste, u"Detail_TDC"_s, Telle_Quelle);
+    Inscrit_Ecran<Aff_Contacte>(registre, poste, u"Aff_Contacte"_s, Refaite, Attache::Station);
+    Inscrit_Ecran<Affiche_Toutes_Activites>(registre, poste, u"Affiche_Toutes_Activites"_s, Refaite, Attache::Station);
+    Inscrit_Ecran<Carte_Acti>(registre, poste, u"Carte_Acti"_s, Refaite, Attache::Station);
+    Inscrit_Ecran<Multi_QSL>(registre, poste, u"Multi_QSL"_s, Refaite, Attache::Station);
     Inscrit_Ecran<ADIF>(registre, poste, u"ADIF"_s);
-    Inscrit_Ecran<Aff_Contacte>(registre, poste, u"Aff_Contacte"_s);
-    Inscrit_Ecran<Affiche_Toutes_Activites>(registre, poste, u"Affiche_Toutes_Activites"_s);
-    Inscrit_Ecran<Detail_Activite>(registre, poste, u"Detail_Activite"_s);
     Inscrit_Ecran<Affichage>(registre, poste, u"Affichage"_s);
-    Inscrit_Ecran<Carte_Acti>(registre, poste, u"Carte_Acti"_s);
     Inscrit_Ecran<Carte_Detail>(registre, poste, u"Carte_Detail"_s);
     Inscrit_Ecran<Cluster>(registre, poste, u"Cluster"_s);
-    Inscrit_Ecran<Detail_DFCF>(registre, poste, u"Detail_DFCF"_s);
-    Inscrit_Ecran<Detail_FFF>(registre, poste, u"Detail_FFF"_s);
-    Inscrit_Ecran<Detail_PC>(registre, poste, u"Detail_PC"_s);
+    Inscrit_Ecran<Detail_Activite>(registre, poste, u"Detail_Activite"_s);
     Inscrit_Ecran<Liste_References>(registre, poste, u"Liste_References"_s);
-    Inscrit_Ecran<Detail_TDC>(registre, poste, u"Detail_TDC"_s);
-    Inscrit_Ecran<Multi_QSL>(registre, poste, u"Multi_QSL"_s);
     Inscrit_Ecran<Recherche_Indicatif>(registre, poste, u"Recherche_Indicatif"_s);
     Inscrit_Ecran<Reglements>(registre, poste, u"Reglements"_s);
     Inscrit_Ecran<Sauvegarde_Log>(registre, poste, u"Sauvegarde_Log"_s);

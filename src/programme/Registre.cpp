@@ -1,20 +1,39 @@
 #include "programme/Registre.h"
 
-#include "ecrans/Ecran.h"
-
 #include <QEventLoop>
 
 #include <utility>
 
+namespace {
+
+/// In front of the others, also when it had been minimised.
+void Met_Devant(Ecran &ecran)
+{
+    ecran.setWindowState(ecran.windowState() & ~Qt::WindowMinimized);
+    ecran.show();
+    ecran.raise();
+    ecran.activateWindow();
+}
+
+/// Closed is not yet destroyed: the name is free at once for the screen that takes its place.
+void Ferme(Ecran &ecran)
+{
+    ecran.setObjectName({});
+    ecran.close();
+}
+
+} // namespace
+
 Registre::~Registre()
 {
-    for (const QPointer<QWidget> &ecran : std::as_const(ouverts_))
+    for (const QPointer<Ecran> &ecran : std::as_const(ouverts_))
         delete ecran.data();
 }
 
-void Registre::Inscrit_Ecran(const QString &nom, Fabrique fabrique)
+void Registre::Inscrit_Ecran(Inscription ecran)
 {
-    fabriques_.insert(nom, std::move(fabrique));
+    const QString nom = ecran.nom;
+    inscriptions_.insert(nom, std::move(ecran));
 }
 
 void Registre::Inscrit_Commande(const QString &nom, std::function<void()> commande)
@@ -24,16 +43,13 @@ void Registre::Inscrit_Commande(const QString &nom, std::function<void()> comman
 
 void Registre::Montre(const QString &nom)
 {
-    if (QWidget *ecran = Ouvre(nom)) {
-        ecran->show();
-        ecran->raise();
-        ecran->activateWindow();
-    }
+    if (Ecran *ecran = Ouvre(nom))
+        Met_Devant(*ecran);
 }
 
 void Registre::Montre_Modal(const QString &nom)
 {
-    QWidget *ecran = Ouvre(nom);
+    Ecran *ecran = Ouvre(nom);
     if (!ecran)
         return;
     QEventLoop jusqu_a_la_fermeture;
@@ -41,13 +57,29 @@ void Registre::Montre_Modal(const QString &nom)
     // A screen that was open without blocking has to be hidden before it can be modal.
     ecran->hide();
     ecran->setWindowModality(Qt::ApplicationModal);
-    Montre(nom);
+    Met_Devant(*ecran);
     jusqu_a_la_fermeture.exec();
 }
 
 bool Registre::Connait(const QString &nom) const
 {
-    return fabriques_.contains(nom);
+    return inscriptions_.contains(nom);
+}
+
+void Registre::Suit_Le_Log()
+{
+    for (const QPointer<Ecran> &ecran : std::as_const(ouverts_))
+        if (ecran)
+            ecran->Suit_Le_Log();
+}
+
+void Registre::Suit_La_Station()
+{
+    for (const Inscription &inscription : std::as_const(inscriptions_))
+        if (Ecran *ecran = Ouvert(inscription.nom);
+            ecran && inscription.attache == Attache::Station && !ecran->Garde_Ouvert())
+            Ferme(*ecran);
+    Suit_Le_Log();
 }
 
 void Registre::Execute(const QString &nom)
@@ -61,15 +93,23 @@ bool Registre::Connait_Commande(const QString &nom) const
     return commandes_.contains(nom);
 }
 
-QWidget *Registre::Ouvre(const QString &nom)
+Ecran *Registre::Ouvre(const QString &nom)
 {
-    if (QWidget *ouvert = ouverts_.value(nom))
-        return ouvert;
-    const Fabrique fabrique = fabriques_.value(nom);
-    if (!fabrique)
+    const auto inscription = inscriptions_.constFind(nom);
+    if (inscription == inscriptions_.cend())
         return nullptr;
-    QWidget *ecran = fabrique();
+    if (Ecran *ouvert = Ouvert(nom)) {
+        if (inscription->reouverture == Reouverture::Telle_Quelle || ouvert->Garde_Ouvert())
+            return ouvert;
+        Ferme(*ouvert);
+    }
+    Ecran *ecran = inscription->fabrique();
     ouverts_.insert(nom, ecran);
     Centre(*ecran);
     return ecran;
+}
+
+Ecran *Registre::Ouvert(const QString &nom) const
+{
+    return ouverts_.value(nom);
 }

@@ -1,39 +1,41 @@
 #pragma once
 
+#include "ecrans/Ecran.h"
 #include "plateforme/Commandes.h"
 #include "plateforme/Ecrans.h"
 
 #include <QHash>
 #include <QPointer>
-#include <QWidget>
 
 #include <functional>
 
 /// The screens and the commands of the program by name: the one place that knows which screen is open.
 class Registre : public Ecrans, public Commandes {
 public:
-    using Fabrique = std::function<QWidget *()>;
-
     Registre() = default;
     /// Screens that are still open go with the program.
     ~Registre() override;
     Registre(const Registre &) = delete;
     Registre &operator=(const Registre &) = delete;
 
-    void Inscrit_Ecran(const QString &nom, Fabrique fabrique);
+    void Inscrit_Ecran(Inscription ecran);
     void Inscrit_Commande(const QString &nom, std::function<void()> commande);
 
     void Montre(const QString &nom) override;
     void Montre_Modal(const QString &nom) override;
     [[nodiscard]] bool Connait(const QString &nom) const override;
+    void Suit_Le_Log() override;
+    void Suit_La_Station() override;
     void Execute(const QString &nom) override;
     [[nodiscard]] bool Connait_Commande(const QString &nom) const override;
 
 private:
-    /// The screen of that name, made now if it is not open; nullptr for a name that is not registered.
-    QWidget *Ouvre(const QString &nom);
+    /// The screen of that name: the open one if it stays, else a new one; nullptr for a name that is not registered.
+    Ecran *Ouvre(const QString &nom);
+    /// The screen of that name if it is open, nullptr if not.
+    [[nodiscard]] Ecran *Ouvert(const QString &nom) const;
 
-    QHash<QString, Fabrique> fabriques_;
-    QHash<QString, QPointer<QWidget>> ouverts_;
+    QHash<QString, Inscription> inscriptions_;
+    QHash<QString, QPointer<Ecran>> ouverts_;
     QHash<QString, std::function<void()>> commandes_;
 };

@@ -8,6 +8,7 @@
 #include "log/Poste.h"
 #include "log/Reglages_Station.h"
 #include "plateforme/Dossier.h"
+#include "plateforme/Ecrans.h"
 #include "plateforme/Tolere.h"
 #include "saisie/Choix_Retenu.h"
 #include "saisie/Vue_Saisie.h"
@@ -65,4 +66,5 @@ void Change_Station(Poste &poste, Vue_Saisie &vue, const QString &indicatif)
     Reprend_Bande_Et_Mode(poste, vue);
     Lit_Annees_Challenge(poste);
     Tolere([&] { Charge_Log(poste, poste.etat.diplome); });
+    poste.ecrans.Suit_La_Station();
 }

@@ -138,6 +138,7 @@ void Ouvre_Diplome(Poste &poste, Vue_Saisie &vue)
     vue.Efface_Saisie();
     Charge_Log(poste, code);
     poste.etat.diplome = code;
+    poste.ecrans.Suit_Le_Log();
     vue.Ecrit(Controle::Type_Ref, Type_Ref(code).toString());
     vue.Active(Controle::Bande_A, true);
     vue.Donne_Focus(Controle::Bande_A);

@@ -15,9 +15,9 @@ using namespace Qt::StringLiterals;
 TEST(Detail_DPF, montre_les_22_provinces)
 {
     Poste_Essai essai;
-    const std::vector<Ecran_A_Inscrire> ecrans = Ecrans_Diplomes(essai.poste);
+    const std::vector<Inscription> ecrans = Ecrans_Diplomes(essai.poste);
     const auto place = std::find_if(ecrans.begin(), ecrans.end(),
-                                    [](const Ecran_A_Inscrire &ecran) { return ecran.nom == u"Detail_DPF"_s; });
+                                    [](const Inscription &ecran) { return ecran.nom == u"Detail_DPF"_s; });
     ASSERT_NE(place, ecrans.end());
     const std::unique_ptr<QWidget> ecran(place->fabrique());
     EXPECT_EQ(ecran->objectName(), u"Detail_DPF"_s);

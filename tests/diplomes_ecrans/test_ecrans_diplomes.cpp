@@ -33,7 +33,7 @@ struct Station_Remplie : Poste_Essai {
     }
     [[nodiscard]] std::unique_ptr<QWidget> Ouvre_Ecran(const QString &nom)
     {
-        for (const Ecran_A_Inscrire &possible : Ecrans_Diplomes(poste))
+        for (const Inscription &possible : Ecrans_Diplomes(poste))
             if (possible.nom == nom)
                 return std::unique_ptr<QWidget>(possible.fabrique());
         return nullptr;

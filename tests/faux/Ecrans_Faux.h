@@ -16,8 +16,11 @@ public:
             pendant_modal(nom);
     }
     [[nodiscard]] bool Connait(const QString &) const override { return true; }
+    void Suit_Le_Log() override { suivis.push_back(QStringLiteral("Suit_Le_Log")); }
+    void Suit_La_Station() override { suivis.push_back(QStringLiteral("Suit_La_Station")); }
 
     std::vector<QString> montres;
     std::vector<QString> modaux;
+    std::vector<QString> suivis;
     std::function<void(const QString &)> pendant_modal;
 };

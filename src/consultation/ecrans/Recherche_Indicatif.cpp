@@ -17,15 +17,16 @@
 using namespace Qt::StringLiterals;
 
 Recherche_Indicatif::Recherche_Indicatif(Poste &poste)
-    : Ecran(u"Recherche_Indicatif"_s, u"Rechercher un QSO du log " + poste.etat.diplome + u" par ..."),
+    : Ecran(u"Recherche_Indicatif"_s, {}),
       poste_(poste),
+      titre_(Nomme(new QLabel(this), u"Label3"_s)),
       qso_effectues_(Nouvelle_Liste())
 {
     auto *quitter = Nomme(new QPushButton(this), u"Command1"_s, u"Quitter"_s);
     quitter->setAutoDefault(true);
 
     auto *grille = new QGridLayout(this);
-    grille->addWidget(Nomme(new QLabel(this), u"Label3"_s, windowTitle()), 0, 0, 1, 3);
+    grille->addWidget(titre_, 0, 0, 1, 3);
     choix_ = {Nouveau_Choix(*grille, Recherche_Par::Indicatif, u"Indica"_s, u"Indicatif"_s),
               Nouveau_Choix(*grille, Recherche_Par::Reference, u"Data"_s, u"Reference"_s),
               Nouveau_Choix(*grille, Recherche_Par::Dpt, u"Depa"_s, u"Dpt"_s)};
@@ -40,7 +41,15 @@ Recherche_Indicatif::Recherche_Indicatif(Poste &poste)
     connect(quitter, &QPushButton::clicked, this, &QWidget::close);
     choix_.front().option->setChecked(true);
     choix_.front().champ->setFocus();
+    Suit_Le_Log();
     Centre(*this);
+}
+
+void Recherche_Indicatif::Suit_Le_Log()
+{
+    setWindowTitle(u"Rechercher un QSO du log " + poste_.etat.diplome + u" par ...");
+    titre_->setText(windowTitle());
+    qso_effectues_->Remplit({});
 }
 
 Recherche_Indicatif::Choix Recherche_Indicatif::Nouveau_Choix(QGridLayout &grille, Recherche_Par par,

@@ -8,6 +8,7 @@
 class Champ_Saisie;
 class Liste_Fixe;
 class QGridLayout;
+class QLabel;
 class QRadioButton;
 
 /// Finds QSOs of the current log; a double click on a hit goes back to it on the main screen.
@@ -16,6 +17,9 @@ class Recherche_Indicatif : public Ecran {
 
 public:
     explicit Recherche_Indicatif(Poste &poste);
+
+    /// Names the current award; hits are places in the log that was there before, and go.
+    void Suit_Le_Log() override;
 
 private:
     struct Choix {
@@ -30,6 +34,7 @@ private:
     void Retourne(int rang);
 
     Poste &poste_;
+    QLabel *titre_;
     std::array<Choix, 3> choix_{};
     Liste_Fixe *qso_effectues_;
 };

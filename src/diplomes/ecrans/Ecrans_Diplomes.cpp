@@ -10,17 +10,21 @@
 
 using namespace Qt::StringLiterals;
 
-std::vector<Ecran_A_Inscrire> Ecrans_Diplomes(Poste &poste)
+std::vector<Inscription> Ecrans_Diplomes(Poste &poste)
 {
-    std::vector<Ecran_A_Inscrire> ecrans;
+    using enum Reouverture;
+    using enum Attache;
+    std::vector<Inscription> ecrans;
     for (const Fiche_Diplome *fiche : Fiches())
-        ecrans.push_back({fiche->ecran.toString(), [&poste, fiche] { return new Ecran_Fiche(poste, *fiche); }});
+        ecrans.push_back({fiche->ecran.toString(), [&poste, fiche] { return new Ecran_Fiche(poste, *fiche); },
+                          Telle_Quelle, Station});
     for (const Liste_Diplome *liste : Listes())
-        ecrans.push_back({liste->ecran.toString(), [&poste, liste] { return new Ecran_Liste(poste, *liste); }});
+        ecrans.push_back({liste->ecran.toString(), [&poste, liste] { return new Ecran_Liste(poste, *liste); },
+                          Telle_Quelle, Station});
     for (const Choix_Diplome *choix : Choix_De_Diplomes())
         ecrans.push_back({choix->ecran.toString(), [&poste, choix] { return new Ecran_Choix(poste, *choix); }});
-    ecrans.push_back({u"Scores_DYLF"_s, [&poste] { return new Scores_DYLF(poste); }});
-    ecrans.push_back({u"Detail_DPF"_s, [&poste] { return new Detail_DPF(poste); }});
-    ecrans.push_back({u"Challenge"_s, [&poste] { return new Ecran_Challenge(poste); }});
+    ecrans.push_back({u"Scores_DYLF"_s, [&poste] { return new Scores_DYLF(poste); }, Refaite, Station});
+    ecrans.push_back({u"Detail_DPF"_s, [&poste] { return new Detail_DPF(poste); }, Telle_Quelle, Libre});
+    ecrans.push_back({u"Challenge"_s, [&poste] { return new Ecran_Challenge(poste); }, Refaite, Station});
     return ecrans;
 }

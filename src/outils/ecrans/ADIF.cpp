@@ -37,11 +37,11 @@ void Groupe(QWidget *ecran, QRadioButton *premier, QRadioButton *second)
 ADIF::ADIF(Poste &poste)
     : Ecran(u"ADIF"_s, u"Importer un fichier ADIF"_s),
       poste_(poste),
+      titre_(Nomme(new QLabel(this), u"Label2"_s)),
       progression_(Nomme(new QProgressBar(this), u"Progression"_s))
 {
     auto *colonne = new QVBoxLayout(this);
-    colonne->addWidget(Nomme(new QLabel(this), u"Label2"_s, u"Importer un log "_s + poste.etat.diplome), 0,
-                       Qt::AlignHCenter);
+    colonne->addWidget(titre_, 0, Qt::AlignHCenter);
     colonne->addSpacing(fontMetrics().height());
     Pose_Formats(*colonne);
     colonne->addSpacing(fontMetrics().height());
@@ -59,7 +59,16 @@ ADIF::ADIF(Poste &poste)
     progression_->hide();
     colonne->addWidget(progression_);
     importer->setFocus();
+    Suit_Le_Log();
     Centre(*this);
+}
+
+void ADIF::Suit_Le_Log()
+{
+    const QString &code = poste_.etat.diplome;
+    titre_->setText(u"Importer un log "_s + code);
+    remplace_->setText(u"Remplacer le log "_s + code);
+    ajout_->setText(u"Ajouter le fichier ADIF au log "_s + code);
 }
 
 void ADIF::Pose_Formats(QVBoxLayout &colonne)
@@ -76,15 +85,14 @@ void ADIF::Pose_Formats(QVBoxLayout &colonne)
 
 void ADIF::Pose_Destinations(QVBoxLayout &colonne)
 {
-    const QString &code = poste_.etat.diplome;
-    auto *remplace = Nomme(new QRadioButton(this), u"Remplace"_s, u"Remplacer le log "_s + code);
-    ajout_ = Nomme(new QRadioButton(this), u"Ajout"_s, u"Ajouter le fichier ADIF au log "_s + code);
-    Groupe(this, remplace, ajout_);
+    remplace_ = Nomme(new QRadioButton(this), u"Remplace"_s);
+    ajout_ = Nomme(new QRadioButton(this), u"Ajout"_s);
+    Groupe(this, remplace_, ajout_);
     // The choice that destroys nothing.
     ajout_->setChecked(true);
     // Tab goes to the first of a group unless told; once the chosen one has the focus Qt keeps it so.
-    remplace->setFocusPolicy(Qt::ClickFocus);
-    colonne.addWidget(remplace);
+    remplace_->setFocusPolicy(Qt::ClickFocus);
+    colonne.addWidget(remplace_);
     colonne.addWidget(ajout_);
 }
 

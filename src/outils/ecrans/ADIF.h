@@ -5,6 +5,7 @@
 
 #include <QElapsedTimer>
 
+class QLabel;
 class QProgressBar;
 class QRadioButton;
 class QVBoxLayout;
@@ -17,6 +18,9 @@ class ADIF : public Ecran, private Ecran_Import {
 public:
     explicit ADIF(Poste &poste);
 
+    /// Names the current award, whose log the next import works on.
+    void Suit_Le_Log() override;
+
 private:
     void Pose_Formats(QVBoxLayout &colonne);
     void Pose_Destinations(QVBoxLayout &colonne);
@@ -27,7 +31,9 @@ private:
     void Ferme() override;
 
     Poste &poste_;
+    QLabel *titre_;
     QRadioButton *r_multi_ = nullptr;
+    QRadioButton *remplace_ = nullptr;
     QRadioButton *ajout_ = nullptr;
     QProgressBar *progression_;
     QElapsedTimer depuis_le_debut_;

@@ -17,8 +17,7 @@ using namespace Qt::StringLiterals;
 Sauvegarde_Log::Sauvegarde_Log(Poste &poste)
     : Ecran(u"Sauvegarde_Log"_s, u"Parametres de sauvegarde"_s),
       poste_(poste),
-      le_chemin_(Nomme(new QLineEdit(this), u"Le_Chemin"_s,
-                       Lit_Station(poste, cles::chemin_sauvegarde, cles::chemin_sauvegarde_absent)))
+      le_chemin_(Nomme(new QLineEdit(this), u"Le_Chemin"_s))
 {
     const auto texte = [this](const QString &nom, const QString &contenu) {
         return Nomme(new QLabel(this), nom, contenu);
@@ -55,7 +54,14 @@ Sauvegarde_Log::Sauvegarde_Log(Poste &poste)
     connect(nouveau, &QPushButton::clicked, this, &Sauvegarde_Log::Nouveau_Repertoire);
     connect(enregistrement, &QPushButton::clicked, this, &Sauvegarde_Log::Enregistre);
     nouveau->setFocus();
+    Suit_Le_Log();
     Centre(*this);
+}
+
+void Sauvegarde_Log::Suit_Le_Log()
+{
+    if (!le_chemin_->isModified())
+        le_chemin_->setText(Lit_Station(poste_, cles::chemin_sauvegarde, cles::chemin_sauvegarde_absent));
 }
 
 void Sauvegarde_Log::Nouveau_Repertoire()

@@ -12,6 +12,9 @@ class Sauvegarde_Log : public Ecran {
 public:
     explicit Sauvegarde_Log(Poste &poste);
 
+    /// Shows the folder of the station, unless the operator is typing another.
+    void Suit_Le_Log() override;
+
 private:
     void Nouveau_Repertoire();
     void Enregistre();

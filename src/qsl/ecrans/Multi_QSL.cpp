@@ -48,6 +48,11 @@ Multi_QSL::Multi_QSL(Poste &poste)
     Centre(*this);
 }
 
+bool Multi_QSL::Garde_Ouvert() const
+{
+    return !liste_qso_->Cochees().empty();
+}
+
 QPushButton *Multi_QSL::Bouton(const QString &nom, const QString &texte)
 {
     auto *bouton = Nomme(new QPushButton(this), nom, texte);

@@ -15,6 +15,9 @@ class Multi_QSL : public Ecran {
 public:
     explicit Multi_QSL(Poste &poste);
 
+    /// Ticks that were not stored are the operator's work.
+    [[nodiscard]] bool Garde_Ouvert() const override;
+
 private:
     QPushButton *Bouton(const QString &nom, const QString &texte);
     void Dispose();
