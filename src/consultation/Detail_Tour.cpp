@@ -1,8 +1,8 @@
 #include "consultation/Detail_Tour.h"
 
 #include "listes/Champs_Des_Listes.h"
+#include "log/Ecran_Principal.h"
 #include "log/Etat_Commun.h"
-#include "log/Ligne_Affichage.h"
 #include "log/Ligne_Liste.h"
 #include "log/Poste.h"
 #include "log/Serveurs.h"
@@ -62,7 +62,7 @@ const std::span<const Champ_Detail> champs_detail_tdc = champs;
 
 QString Reference_Tour(const Poste &poste)
 {
-    return Lit(poste.etat.ligne_selectionnee, {colonnes_affichage::Ref.colonne, largeur_reference}).toString();
+    return poste.ecran.Ref_A().left(largeur_reference);
 }
 
 Textes_Detail Charge_Tour(const Poste &poste, QStringView reference)

@@ -5,7 +5,7 @@
 /// The fields of Detail_TDC in their order on the screen.
 extern const std::span<const Champ_Detail> champs_detail_tdc;
 
-/// The reference of the selected QSO, in the six columns that the towers have ("11-008").
+/// The reference on the entry line, cut to the six characters that the towers have ("11-008").
 QString Reference_Tour(const Poste &poste);
 
 /// The texts of one tower by Liste_TDC.csv; for a reference that is not there Ref_I alone, which tells it. Throws

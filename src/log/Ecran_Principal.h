@@ -24,6 +24,8 @@ public:
 
     /// The text of Dip_A, which need not be the current award.
     [[nodiscard]] virtual QString Dip_A() const = 0;
+    /// The text of Ref_A: the reference on the entry line.
+    [[nodiscard]] virtual QString Ref_A() const = 0;
     /// The text of I_Station: the call sign as shown.
     [[nodiscard]] virtual QString I_Station() const = 0;
     /// Clear the entry back to rest, with the focus on Dip_A or on Bande_A.

@@ -2,8 +2,6 @@
 #include "faux/Conduite.h"
 #include "faux/Impression.h"
 #include "faux/Poste_Essai.h"
-#include "faux/QSO_Essai.h"
-#include "log/Ligne_Affichage.h"
 
 #include <QLabel>
 #include <QLineEdit>
@@ -18,7 +16,7 @@ TEST(Ecran_Detail_TDC, montre_la_tour_et_ouvre_sa_page)
 {
     Poste_Essai essai;
     essai.fichiers.Pose(u"Liste_TDC.csv"_s, "Rev\r\n8;11;41;CARCASSONNE;Narbonne - Perpignan;France;TC8;\r\n");
-    essai.etat.ligne_selectionnee = Ligne_Affichage(3, QSO({.ref = u"11-008"_s}));
+    essai.ecran.ref_a = u"11-008"_s;
     Detail_TDC ecran(essai.poste);
     ecran.show();
     EXPECT_EQ(ecran.objectName(), u"Detail_TDC"_s);

@@ -24,6 +24,7 @@ public:
     [[nodiscard]] QString QSO_Selectionne() const override { return selection; }
     void Active_Ind_A() override { appels.push_back(QStringLiteral("Active_Ind_A")); }
     [[nodiscard]] QString Dip_A() const override { return dip_a; }
+    [[nodiscard]] QString Ref_A() const override { return ref_a; }
     [[nodiscard]] QString I_Station() const override { return i_station; }
     void Efface() override { appels.push_back(QStringLiteral("Efface")); }
     void Efface_Saisie() override { appels.push_back(QStringLiteral("Efface_Saisie")); }
@@ -31,6 +32,7 @@ public:
     Lignes_Texte liste;
     QString selection;
     QString dip_a;
+    QString ref_a;
     QString i_station;
     std::vector<QString> appels;
 };
