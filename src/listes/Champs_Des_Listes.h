@@ -24,7 +24,6 @@ inline constexpr std::size_t Nom = 4;
 
 /// Liste_FFF.csv. Three heading lines that carry the separators too.
 namespace champs_fff {
-inline constexpr std::size_t Presence = 1; ///< empty: the data ends here
 inline constexpr std::size_t Pays = 2;
 inline constexpr std::size_t Ref = 4; ///< "FFF-" and four digits, or another prefix
 inline constexpr std::size_t Nom = 5;

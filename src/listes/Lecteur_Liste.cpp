@@ -16,6 +16,8 @@ std::optional<Fiche_Liste> Lecteur_Liste::Suivante()
 {
     if (lecture_.vides_ignorees)
         Saute_Vides();
+    if (lecture_.finit_au_vide && Commence_Par_Un_Vide())
+        rang_ = lignes_.size();
     if (rang_ >= lignes_.size())
         return std::nullopt;
     Fiche_Liste fiche;
@@ -40,6 +42,11 @@ bool Lecteur_Liste::Coupe(Fiche_Liste &fiche) const
         fiche.champs[ligne] = lignes_[rang_ + ligne];
     // The fifth line says nothing that a look-up gives, so the last record may lack it.
     return presentes >= Pas() - 1;
+}
+
+bool Lecteur_Liste::Commence_Par_Un_Vide() const
+{
+    return rang_ < lignes_.size() && (lignes_[rang_].isEmpty() || lignes_[rang_].startsWith(u';'));
 }
 
 void Lecteur_Liste::Saute_Vides()

@@ -25,6 +25,8 @@ struct Lecture {
     std::size_t lignes_passees = 0;
     bool vides_ignorees = false;
     std::size_t separateurs = 0; ///< that each line must have
+    /// A line whose first field is empty is the end of the data, however few separators it has.
+    bool finit_au_vide = false;
     /// The record that is the end of the data, and the one that is the last.
     bool (*finit_avant)(const Fiche_Liste &fiche) = nullptr;
     bool (*finit_apres)(const Fiche_Liste &fiche) = nullptr;
@@ -41,6 +43,7 @@ public:
 
 private:
     [[nodiscard]] bool Coupe(Fiche_Liste &fiche) const;
+    [[nodiscard]] bool Commence_Par_Un_Vide() const;
     void Saute_Vides();
     [[nodiscard]] std::size_t Pas() const;
 

@@ -73,11 +73,6 @@ QString Nom_D_Edifice(const Fiche_Liste &fiche, QStringView ref)
     return prefixe + u"de " + fiche[champs_dcf::Ville];
 }
 
-bool Finit_FFF(const Fiche_Liste &fiche)
-{
-    return fiche[champs_fff::Presence].isEmpty();
-}
-
 Cle Cle_FFF(const Fiche_Liste &fiche)
 {
     const QStringView ref = fiche[champs_fff::Ref];
@@ -170,7 +165,7 @@ constinit const Recherche recherches::Cherche_DCF{
     .absente = Rien};
 
 constinit const Recherche recherches::Cherche_FFF{
-    .lecture = {.fichier = u"Liste_FFF.csv", .lignes_passees = 3, .separateurs = 6, .finit_avant = Finit_FFF},
+    .lecture = {.fichier = u"Liste_FFF.csv", .lignes_passees = 3, .separateurs = 6, .finit_au_vide = true},
     .cle = Cle_FFF,
     .cle_cherchee = Telle_Quelle,
     .presente = [](const Fiche_Liste &fiche, QStringView) -> Reference_Trouvee {
@@ -224,10 +219,7 @@ constinit const Recherche recherches::Cherche_PC{
     .absente = Rien};
 
 constinit const Recherche recherches::Nom_Ouvrage{
-    .lecture = {.fichier = u"Liste_Ouvrages.csv",
-                .lignes_passees = 1,
-                .separateurs = 6,
-                .finit_avant = [](const Fiche_Liste &fiche) { return fiche[champs_ouvrages::Ref].isEmpty(); }},
+    .lecture = {.fichier = u"Liste_Ouvrages.csv", .lignes_passees = 1, .separateurs = 6, .finit_au_vide = true},
     .cle = Cle_Ouvrage,
     .cle_cherchee = Telle_Quelle,
     // The second output is the name too, not the department.

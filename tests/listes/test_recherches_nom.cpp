@@ -23,6 +23,14 @@ TEST(Nom_Ouvrage, un_premier_champ_vide_finit_la_liste)
     EXPECT_EQ(Cherche_Ouvrage(essai.dossier, u"45EC103").nom, u"Châtillon"_s) << "the entry look-up goes on";
 }
 
+TEST(Nom_Ouvrage, une_ligne_vide_finit_la_liste_que_la_saisie_ne_passe_pas)
+{
+    const Poste_Essai essai;
+    Pose_Liste(essai, u"Liste_Ouvrages.csv"_s, {u"Rev"_s, u"45EC102;Briare;;45;;1;"_s, u""_s});
+    EXPECT_EQ(Nom_Ouvrage(essai.dossier, u"45EC103").nom, u""_s);
+    EXPECT_THROW(Cherche_Ouvrage(essai.dossier, u"45EC103"), Erreur_Execution);
+}
+
 TEST(Nom_DFCF, le_nom_n_est_pas_coupe)
 {
     const Poste_Essai essai;

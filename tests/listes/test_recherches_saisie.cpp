@@ -117,6 +117,24 @@ TEST(Cherche_FFF, un_premier_champ_vide_finit_la_liste)
     EXPECT_EQ(Cherche_FFF(essai.dossier, u"0002"), inchangee);
 }
 
+TEST(Cherche_FFF, une_ligne_vide_finit_la_liste_et_une_reference_inconnue_reste_sans_nom)
+{
+    const Poste_Essai essai;
+    for (const QString &fin : {u""_s, u";coupee"_s}) {
+        Pose_Liste(essai, u"Liste_FFF.csv"_s,
+                   {u";;;;;;"_s, u";;;;;;"_s, u";;;;;;"_s, u"1;;;FFF-0001;Un;;"_s, fin, u"1;;;FFF-0002;Deux;;"_s});
+        EXPECT_EQ(Cherche_FFF(essai.dossier, u"0001").nom, u"Un"_s);
+        EXPECT_EQ(Cherche_FFF(essai.dossier, u"0002"), inchangee);
+    }
+}
+
+TEST(Cherche_FFF, une_ligne_coupee_qui_commence_par_un_texte_est_un_echec)
+{
+    const Poste_Essai essai;
+    Pose_Liste(essai, u"Liste_FFF.csv"_s, {u""_s, u""_s, u""_s, u"cassee"_s});
+    EXPECT_THROW(Cherche_FFF(essai.dossier, u"0001"), Erreur_Execution);
+}
+
 TEST(Cherche_DPLF, compare_des_nombres)
 {
     for (const QString &numero : {u"1"_s, u"01"_s, u"001"_s}) {
