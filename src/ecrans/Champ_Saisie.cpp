@@ -2,7 +2,6 @@
 
 #include "plateforme/Windows_1252.h"
 
-#include <QComboBox>
 #include <QValidator>
 
 namespace {
@@ -37,19 +36,4 @@ Champ_Saisie::Champ_Saisie(int caracteres, QWidget *parent) : Champ_Saisie(paren
 {
     // Capitals are wider than the average character, and the frame takes its part.
     setFixedWidth(fontMetrics().horizontalAdvance(u'M') * caracteres + fontMetrics().height());
-}
-
-QComboBox *Combo_Libre(QWidget *parent)
-{
-    auto *combo = new QComboBox(parent);
-    combo->setEditable(true);
-    combo->setLineEdit(new Champ_Saisie(combo));
-    combo->setInsertPolicy(QComboBox::NoInsert);
-    combo->setCompleter(nullptr);
-    return combo;
-}
-
-int Indice_Du_Texte(const QComboBox &combo)
-{
-    return combo.findText(combo.currentText(), Qt::MatchExactly | Qt::MatchCaseSensitive);
 }

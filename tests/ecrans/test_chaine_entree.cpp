@@ -1,5 +1,6 @@
 #include "ecrans/Chaine_Entree.h"
 #include "ecrans/Champ_Saisie.h"
+#include "ecrans/Combo.h"
 #include "faux/Conduite.h"
 #include "faux/Impression.h"
 

@@ -5,7 +5,6 @@
 #include <gtest/gtest.h>
 
 #include <QClipboard>
-#include <QComboBox>
 
 using namespace Qt::StringLiterals;
 
@@ -59,28 +58,4 @@ TEST_F(Champ, un_collage_au_milieu_garde_le_curseur_derriere_lui)
     Colle(u"x\nΔy"_s);
     EXPECT_EQ(champ.text(), u"AxyB"_s);
     EXPECT_EQ(champ.cursorPosition(), 3);
-}
-
-TEST_F(Champ, une_combo_libre_ne_retient_ni_ne_devine_rien)
-{
-    QWidget ecran;
-    QComboBox *combo = Combo_Libre(&ecran);
-    combo->addItems({u"14 Mhz"_s, u"144 Mhz"_s});
-    combo->setEditText(u""_s);
-    ecran.show();
-    ecran.activateWindow();
-    combo->setFocus();
-    conduite::Tape(*combo, u"14"_s);
-    EXPECT_EQ(combo->currentText(), u"14"_s);
-    QTest::keyClick(combo, Qt::Key_Return);
-    EXPECT_EQ(combo->count(), 2);
-    EXPECT_EQ(combo->completer(), nullptr);
-    EXPECT_EQ(combo->currentText(), u"14"_s);
-    EXPECT_EQ(Indice_Du_Texte(*combo), -1);
-    combo->setEditText(u"144 Mhz"_s);
-    EXPECT_EQ(Indice_Du_Texte(*combo), 1);
-    combo->setEditText(u"144 MHZ"_s);
-    EXPECT_EQ(Indice_Du_Texte(*combo), -1);
-    conduite::Tape(*combo, u"Δ"_s);
-    EXPECT_EQ(combo->currentText(), u"144 MHZ"_s);
 }

@@ -1,4 +1,5 @@
 #include "ecrans/Champ_Saisie.h"
+#include "ecrans/Combo.h"
 #include "ecrans/Couleurs.h"
 #include "faux/Conduite.h"
 

@@ -1,12 +1,12 @@
 #include "consultation/ecrans/Aff_Contacte.h"
 
+#include "ecrans/Combo.h"
 #include "ecrans/Liste_Fixe.h"
 #include "ecrans/Nomme.h"
 #include "log/Catalogue.h"
 #include "log/Etat_Commun.h"
 #include "log/Poste.h"
 
-#include <QComboBox>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
@@ -36,7 +36,7 @@ Aff_Contacte::Aff_Contacte(Poste &poste)
     : Ecran(u"Aff_Contacte"_s, Titre_Contactes(poste.etat.diplome)),
       poste_(poste),
       code_(poste.etat.diplome),
-      bande_(Nomme(new QComboBox(this), u"Bande_A"_s)),
+      bande_(Nomme(new Combo(this), u"Bande_A"_s)),
       liste_(Nomme(new Liste_Fixe(this), u"Liste_Acti_Contacte"_s)),
       imprimer_(Bouton(u"Imprimer"_s, u"Imprimer"_s)),
       enregistrer_(Bouton(u"Enregistrer"_s, u"Enregistrer"_s))

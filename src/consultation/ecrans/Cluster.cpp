@@ -1,9 +1,9 @@
 #include "consultation/ecrans/Cluster.h"
 
 #include "consultation/Pages_Web.h"
+#include "ecrans/Combo.h"
 #include "ecrans/Nomme.h"
 
-#include <QComboBox>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
@@ -13,7 +13,7 @@ using namespace Qt::StringLiterals;
 
 Cluster::Cluster(Poste &poste)
     : Ecran_Web(poste, u"Cluster"_s, u"Cluster"_s),
-      bande_(Nomme(new QComboBox(this), u"Bande_CL"_s))
+      bande_(Nomme(new Combo(this), u"Bande_CL"_s))
 {
     const auto texte = [this](const QString &nom, const QString &contenu) {
         return Nomme(new QLabel(this), nom, contenu);

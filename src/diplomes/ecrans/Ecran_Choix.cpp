@@ -1,11 +1,11 @@
 #include "diplomes/ecrans/Ecran_Choix.h"
 
 #include "diplomes/ecrans/Etiquettes.h"
+#include "ecrans/Combo.h"
 #include "ecrans/Nomme.h"
 
 #include <QBoxLayout>
 #include <QButtonGroup>
-#include <QComboBox>
 #include <QGroupBox>
 #include <QLabel>
 #include <QPushButton>
@@ -52,7 +52,7 @@ QWidget *Ecran_Choix::Cadre(const Groupe_Options &groupe, QButtonGroup *options)
 
 QWidget *Ecran_Choix::Selecteur(const Option_Diplome &option)
 {
-    auto *bandes = Nomme(new QComboBox, option.selecteur->nom.toString());
+    auto *bandes = Nomme(new Combo, option.selecteur->nom.toString());
     for (const QStringView bande : option.selecteur->bandes)
         bandes->addItem(bande.toString());
     bandes->setAccessibleName(option.texte.toString());

@@ -2,6 +2,7 @@
 
 #include "ecrans/Chaine_Entree.h"
 #include "ecrans/Champ_Saisie.h"
+#include "ecrans/Combo.h"
 #include "ecrans/Couleurs.h"
 #include "ecrans/Nomme.h"
 #include "log/Catalogue.h"
@@ -11,7 +12,6 @@
 #include "qsl/Imprime_Confirmation.h"
 #include "qsl/ecrans/Liste_A_Cocher.h"
 
-#include <QComboBox>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
@@ -29,7 +29,7 @@ Multi_QSL::Multi_QSL(Poste &poste)
     : Ecran(u"Multi_QSL"_s, u"Enregistrement des QSL reçues"_s),
       poste_(poste),
       indicatif_(Nomme(new Champ_Saisie(14, this), u"Indicatif"_s)),
-      diplome_(Nomme(new QComboBox(this), u"Diplome"_s)),
+      diplome_(Nomme(new Combo(this), u"Diplome"_s)),
       recherche_(Bouton(u"Recherche"_s, u"Rechercher"_s)),
       liste_qso_(Nomme(new Liste_A_Cocher(this), u"Liste_QSO"_s)),
       enregistre_(Bouton(u"Enregistre"_s, u"MAJ du log"_s)),

@@ -1,7 +1,7 @@
 #include "saisie/ecrans/Main.h"
 
 #include "ecrans/Chaine_Entree.h"
-#include "ecrans/Champ_Saisie.h"
+#include "ecrans/Combo.h"
 #include "ecrans/Couleurs.h"
 #include "ecrans/Ecran.h"
 #include "ecrans/Liste_Fixe.h"
@@ -19,7 +19,6 @@
 #include <QApplication>
 #include <QCheckBox>
 #include <QCloseEvent>
-#include <QComboBox>
 #include <QGroupBox>
 #include <QLabel>
 #include <QMenuBar>

@@ -1,11 +1,11 @@
 #include "saisie/ecrans/Zone_Saisie.h"
 
 #include "ecrans/Champ_Saisie.h"
+#include "ecrans/Combo.h"
 #include "ecrans/Nomme.h"
 #include "log/Catalogue.h"
 
 #include <QCheckBox>
-#include <QComboBox>
 #include <QGridLayout>
 #include <QGroupBox>
 #include <QHBoxLayout>
@@ -35,9 +35,9 @@ public:
     }
 
     template <std::size_t N>
-    QComboBox *Combo(Controle controle, const QString &nom, const std::array<QStringView, N> &entrees)
+    Combo *Liste(Controle controle, const QString &nom, const std::array<QStringView, N> &entrees)
     {
-        QComboBox *combo = Combo_Libre(parent_);
+        Combo *combo = Combo_Libre(parent_);
         for (const QStringView entree : entrees)
             combo->addItem(entree.toString());
         return Enregistre(controle, Nomme(combo, nom));
@@ -114,14 +114,14 @@ QVBoxLayout *Colonne_Ref(Atelier &atelier)
 
 QHBoxLayout *Premiere_Rangee(Atelier &atelier)
 {
-    QComboBox *dip = atelier.Combo(Controle::Dip_A, u"Dip_A"_s, codes_diplome);
+    Combo *dip = atelier.Liste(Controle::Dip_A, u"Dip_A"_s, codes_diplome);
     dip->setToolTip(u"Touche \"Entrée\" pour valider le diplome"_s);
     dip->setMaxVisibleItems(static_cast<int>(codes_diplome.size()));
     auto *rangee = new QHBoxLayout;
     rangee->setSpacing(12);
     rangee->addLayout(Colonne(atelier.Legende(u"Dip_L"_s, u"Diplome"_s), dip));
     rangee->addLayout(
-        Colonne(atelier.Legende(u"Bande_L"_s, u"Bande"_s), atelier.Combo(Controle::Bande_A, u"Bande_A"_s, bandes)));
+        Colonne(atelier.Legende(u"Bande_L"_s, u"Bande"_s), atelier.Liste(Controle::Bande_A, u"Bande_A"_s, bandes)));
     rangee->addLayout(
         Colonne(atelier.Legende(u"Ind_L"_s, u"Indicatif"_s), atelier.Champ(Controle::Ind_A, u"Ind_A"_s, 12)));
     rangee->addLayout(
@@ -141,7 +141,7 @@ QHBoxLayout *Seconde_Rangee(Atelier &atelier)
     auto *rangee = new QHBoxLayout;
     rangee->setSpacing(12);
     rangee->addLayout(
-        Colonne(atelier.Legende(u"Mode_L"_s, u"Mode"_s), atelier.Combo(Controle::Mode_A, u"Mode_A"_s, modes)));
+        Colonne(atelier.Legende(u"Mode_L"_s, u"Mode"_s), atelier.Liste(Controle::Mode_A, u"Mode_A"_s, modes)));
     rangee->addLayout(
         Colonne(atelier.Legende(u"RSTR_L"_s, u"RST R"_s), atelier.Champ(Controle::RSTR_A, u"RSTR_A"_s, 4)));
     rangee->addLayout(
