@@ -55,6 +55,14 @@ bool Est_Code_Diplome(QStringView texte)
     return Habillage_De(texte) != nullptr;
 }
 
+QString En_Forme_De_Code(const QString &texte)
+{
+    for (const QStringView code : codes_diplome)
+        if (code.compare(texte, Qt::CaseInsensitive) == 0)
+            return code.toString();
+    return texte;
+}
+
 bool Est_Challenge(QStringView code)
 {
     return code == u"Ch_DFCF" || code == u"Ch_DMF";

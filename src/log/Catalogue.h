@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QString>
 #include <QStringView>
 
 #include <array>
@@ -7,13 +8,13 @@
 
 /// The entries of Dip_A; `Diplome Utilise` is an index into them.
 inline constexpr std::array<QStringView, 21> codes_diplome = {
-    u"Ch_DFCF", u"Ch_DMF", u"DAF",  u"DCF", u"DCPF", u"DDFM", u"DFCF", u"DFF", u"DIFI", u"DIFM", u"DLF",
-    u"DMF",     u"DOHF",   u"DPF",  u"DPLF", u"DVFF", u"DYLF", u"FFF",  u"PC",  u"TDC",  u"WLF",
+    u"Ch_DFCF", u"Ch_DMF", u"DAF", u"DCF",  u"DCPF", u"DDFM", u"DFCF", u"DFF", u"DIFI", u"DIFM", u"DLF",
+    u"DMF",     u"DOHF",   u"DPF", u"DPLF", u"DVFF", u"DYLF", u"FFF",  u"PC",  u"TDC",  u"WLF",
 };
 
 /// The entries of Bande_A.
 inline constexpr std::array<QStringView, 12> bandes = {
-    u"1.8 Mhz", u"3.5 Mhz", u"7.0 Mhz", u"10 Mhz", u"14 Mhz", u"18 Mhz",
+    u"1.8 Mhz", u"3.5 Mhz", u"7.0 Mhz", u"10 Mhz", u"14 Mhz",  u"18 Mhz",
     u"21 Mhz",  u"24 Mhz",  u"28 Mhz",  u"50 Mhz", u"144 Mhz", u"432 Mhz",
 };
 
@@ -38,5 +39,7 @@ const Habillage *Habillage_De(QStringView code);
 QStringView Type_Ref(QStringView code);
 
 bool Est_Code_Diplome(QStringView texte);
+/// The code that a text spells in whatever case, in its own form; a text that spells none comes back as it is.
+QString En_Forme_De_Code(const QString &texte);
 /// The two challenges, whose log bears a year.
 bool Est_Challenge(QStringView code);

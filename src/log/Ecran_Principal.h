@@ -22,7 +22,7 @@ public:
     [[nodiscard]] virtual QString QSO_Selectionne() const = 0;
     virtual void Active_Ind_A() = 0;
 
-    /// The text of Dip_A, which need not be the current award.
+    /// The text of Dip_A, a code in its own form whatever its case is there. It need not be the current award.
     [[nodiscard]] virtual QString Dip_A() const = 0;
     /// The text of Ref_A: the reference on the entry line.
     [[nodiscard]] virtual QString Ref_A() const = 0;

@@ -145,14 +145,15 @@ void Entree(Poste &poste, Vue_Saisie &vue, Controle champ)
     }
 }
 
-bool Accepte_Touche(Poste &poste, Controle champ)
+bool Accepte_Touche(Poste &poste, Vue_Saisie &vue, Controle champ)
 {
     if (champ == Controle::Dip_A)
         return Accepte_Touche_Dip(poste);
-    if (champ != Controle::Ind_A || poste.etat.indicatif != indicatif_absent)
-        return true;
-    poste.boites.Message(Message_Premiere_Installation_Ind());
-    return false;
+    if (champ == Controle::Ind_A && poste.etat.indicatif == indicatif_absent) {
+        poste.boites.Message(Message_Premiere_Installation_Ind());
+        return false;
+    }
+    return A_Un_Log_Ouvert(poste, vue);
 }
 
 void Avant_Touche(const Poste &poste, Vue_Saisie &vue, Controle champ, bool retour_arriere)

@@ -10,8 +10,9 @@ struct Poste;
 /// Enter in `champ`, Dip_A to QSL_A.
 void Entree(Poste &poste, Vue_Saisie &vue, Controle champ);
 
-/// Before any key of `champ`; false drops the key: there is no call sign yet, and the operator was told.
-bool Accepte_Touche(Poste &poste, Controle champ);
+/// Before any key of `champ`; false drops the key: there is no call sign yet, or behind Dip_A no log to write to, and
+/// the operator was told.
+bool Accepte_Touche(Poste &poste, Vue_Saisie &vue, Controle champ);
 /// Before a key that types or erases a character: the separators of date and time come by themselves.
 void Avant_Touche(const Poste &poste, Vue_Saisie &vue, Controle champ, bool retour_arriere);
 /// After `champ` took a key other than Enter.

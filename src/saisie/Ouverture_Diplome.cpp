@@ -105,6 +105,13 @@ bool Habille(Poste &poste, Vue_Saisie &vue, const Habillage &habillage)
     return true;
 }
 
+/// Dip_A shows a code in its own form, whatever its case was typed.
+void Met_Dip_En_Forme(Vue_Saisie &vue)
+{
+    if (vue.Texte(Controle::Dip_A) != vue.Dip_A())
+        vue.Ecrit(Controle::Dip_A, vue.Dip_A());
+}
+
 void Repart_De_Zero(Poste &poste, Vue_Saisie &vue)
 {
     Retient_Choix(poste, vue, Controle::Dip_A, cles::diplome_utilise);
@@ -113,6 +120,15 @@ void Repart_De_Zero(Poste &poste, Vue_Saisie &vue)
 }
 
 } // namespace
+
+bool A_Un_Log_Ouvert(Poste &poste, Vue_Saisie &vue)
+{
+    if (poste.dossier.S_Ouvre(Chemin_Log(poste.etat, poste.etat.diplome)))
+        return true;
+    poste.boites.Message(u"Selectionnez un diplome"_s);
+    vue.Donne_Focus(Controle::Dip_A);
+    return false;
+}
 
 bool Accepte_Touche_Dip(Poste &poste)
 {
@@ -124,7 +140,8 @@ bool Accepte_Touche_Dip(Poste &poste)
 
 void Ouvre_Diplome(Poste &poste, Vue_Saisie &vue)
 {
-    const QString code = vue.Texte(Controle::Dip_A);
+    Met_Dip_En_Forme(vue);
+    const QString code = vue.Dip_A();
     const Habillage *habillage = Habillage_De(code);
     if (!habillage) {
         poste.boites.Message(u"Selectionnez un diplome"_s);
@@ -133,6 +150,7 @@ void Ouvre_Diplome(Poste &poste, Vue_Saisie &vue)
     const QString precedent = std::exchange(poste.etat.diplome, code);
     if (!Habille(poste, vue, *habillage)) {
         poste.etat.diplome = precedent;
+        vue.Ecrit(Controle::Dip_A, precedent);
         return;
     }
     vue.Efface_Saisie();
@@ -147,6 +165,7 @@ void Ouvre_Diplome(Poste &poste, Vue_Saisie &vue)
 
 void Touche_Dip(Poste &poste, Vue_Saisie &vue)
 {
+    Met_Dip_En_Forme(vue);
     Repart_De_Zero(poste, vue);
     // The focus goes back to where the operator is typing: the next letter of the code would land in the band.
     vue.Donne_Focus(Controle::Dip_A);

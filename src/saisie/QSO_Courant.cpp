@@ -6,6 +6,7 @@
 #include "log/Ligne_Affichage.h"
 #include "log/Poste.h"
 #include "plateforme/Boites.h"
+#include "saisie/Ouverture_Diplome.h"
 #include "saisie/Vue_Saisie.h"
 
 using namespace Qt::StringLiterals;
@@ -85,6 +86,8 @@ void Commence_Insertion(Poste &poste, Vue_Saisie &vue)
         vue.Donne_Focus(Controle::Dip_A);
         return;
     }
+    if (!A_Un_Log_Ouvert(poste, vue))
+        return;
     // Only the option menu clears this again: the QSOs after this one go in as insertions too.
     poste.etat.saisie_differee = true;
     vue.Ecrit(Controle::Mode_Aff, u"Insertion QSO"_s);
@@ -98,6 +101,8 @@ void Supprime_QSO(Poste &poste, Vue_Saisie &vue)
         poste.boites.Message(u"Cliquez sur une ligne pour l'effacer"_s);
         return;
     }
+    if (!A_Un_Log_Ouvert(poste, vue))
+        return;
     const QString code = vue.Dip_A();
     if (!Est_Code_Diplome(code)) {
         poste.boites.Message(u"Selectionnez un diplome"_s);

@@ -9,6 +9,7 @@
 #include "plateforme/Windows_1252.h"
 #include "saisie/Choix_Retenu.h"
 #include "saisie/Liste_Prenom.h"
+#include "saisie/Ouverture_Diplome.h"
 #include "saisie/Passage.h"
 #include "saisie/Repos.h"
 
@@ -71,7 +72,7 @@ bool Tient_Dans_Les_Colonnes(Poste &poste, Vue_Saisie &vue)
 }
 
 /// A new QSO goes to the log that Dip_A names, so that text must be an award.
-bool A_Un_Log(Poste &poste, Vue_Saisie &vue)
+bool Nomme_Un_Log(Poste &poste, Vue_Saisie &vue)
 {
     const bool ajoute = !poste.etat.qso_affiche && !poste.etat.saisie_differee;
     const bool sans_log = ajoute && !Est_Code_Diplome(vue.Dip_A());
@@ -140,7 +141,7 @@ void Prepare_Le_Suivant(Poste &poste, Vue_Saisie &vue)
 
 void Valide_QSO(Poste &poste, Vue_Saisie &vue)
 {
-    if (!A_Un_Log(poste, vue) || !Tient_Dans_Les_Colonnes(poste, vue))
+    if (!A_Un_Log_Ouvert(poste, vue) || !Nomme_Un_Log(poste, vue) || !Tient_Dans_Les_Colonnes(poste, vue))
         return;
     if (!poste.boites.Question(u"Voulez vous enregistrer ces données ?"_s))
         return;

@@ -40,7 +40,7 @@ public:
     }
     [[nodiscard]] QString QSO_Selectionne() const override { return selection; }
     void Active_Ind_A() override { Active(Controle::Ind_A, true); }
-    [[nodiscard]] QString Dip_A() const override { return Texte(Controle::Dip_A); }
+    [[nodiscard]] QString Dip_A() const override { return En_Forme_De_Code(Texte(Controle::Dip_A)); }
     [[nodiscard]] QString Ref_A() const override { return Texte(Controle::Ref_A); }
     [[nodiscard]] QString I_Station() const override { return Texte(Controle::I_Station); }
     void Efface() override { Efface_Tout(etat_, *this); }

@@ -77,3 +77,12 @@ TEST(Historique, chaque_version_derriere_un_saut_de_ligne)
     EXPECT_EQ(Historique().toUtf8(), Attendu(u"historique.txt"_s));
     EXPECT_EQ(version_vorlain, u"V1.2.5c");
 }
+
+TEST(En_Forme_De_Code, un_code_se_reconnait_dans_toute_casse_et_garde_la_sienne)
+{
+    for (const QStringView code : codes_diplome)
+        for (const QString &texte : {code.toString(), code.toString().toUpper(), code.toString().toLower()})
+            EXPECT_EQ(En_Forme_De_Code(texte), code.toString());
+    for (const QString &texte : {u""_s, u"dfc"_s, u"ch_dfcf "_s, u"Xyz"_s})
+        EXPECT_EQ(En_Forme_De_Code(texte), texte);
+}

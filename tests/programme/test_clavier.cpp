@@ -182,6 +182,98 @@ TEST_F(Clavier, les_separateurs_viennent_d_eux_memes_dans_date_et_heure)
     EXPECT_EQ(En_Main()->objectName(), u"Mode_A"_s);
 }
 
+TEST_F(Clavier, le_tout_premier_qso_d_un_nouvel_operateur)
+{
+    Ouvre();
+    Ecran().activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&Ecran()));
+    conduite::Pendant_Modal(
+        u"Station"_s, [this] { Controle_Nomme<QAction>(u"Mnu_New_Indicatif"_s).trigger(); },
+        [](QWidget &station) {
+            conduite::Tape(*conduite::Trouve(station, u"New_Indicatif"_s), u"f1new"_s);
+            conduite::Entree(*conduite::Trouve(station, u"New_Indicatif"_s));
+            conduite::Entree(*conduite::Trouve(station, u"Validation"_s));
+        });
+    Touche(Qt::Key_Tab);
+    EXPECT_EQ(En_Main()->objectName(), u"Ind_A"_s);
+    const QStringList avant = fichiers.Fichiers();
+    for (const Qt::Key touche : {Qt::Key_F, Qt::Key_Return}) {
+        Controle_Nomme(u"Ind_A"_s).setFocus();
+        EXPECT_EQ(conduite::Repond({}, [&] { QTest::keyClick(&Controle_Nomme(u"Ind_A"_s), touche); }),
+                  std::vector<QString>{u"Selectionnez un diplome"_s});
+        EXPECT_EQ(En_Main()->objectName(), u"Dip_A"_s);
+        EXPECT_EQ(Ecran().Texte(Controle::Ind_A), QString());
+    }
+    EXPECT_EQ(fichiers.Fichiers(), avant);
+    for (const QString &texte :
+         {u"dfcf"_s, u""_s, u"f5abc"_s, u"jean"_s, u"77001"_s, u""_s, u""_s, u""_s, u""_s, u"vaux"_s, u""_s})
+        Frappe_Et_Entre(texte);
+    EXPECT_EQ(conduite::Repond({u"Oui"_s}, [this] { Touche(Qt::Key_Return); }).size(), 1U);
+    ASSERT_EQ(QSO_Affiches().size(), 1U);
+    EXPECT_EQ(fichiers.Octets(u"F1NEW_DFCF.log"_s).size(), 113);
+}
+
+TEST_F(Clavier, apres_un_changement_de_station_un_challenge_sans_log_demande_un_diplome)
+{
+    Regle(section, u"Annee Challenge DFCF"_s, u"2026"_s);
+    fichiers.Pose(u"F9ZZY_Ch_DFCF_2026.log"_s, QSO({.ref = u"77001A"_s}).toLatin1() + "\r\n");
+    fichiers.Pose(u"F2OLD_DFCF.log"_s, {});
+    Prepare(u"Ch_DFCF"_s);
+    conduite::Repond({}, [this] { Touche(Qt::Key_Return); });
+    Frappe_Et_Entre(u""_s);
+    conduite::Pendant_Modal(
+        u"Station"_s, [this] { Controle_Nomme<QAction>(u"Mnu_New_Indicatif"_s).trigger(); },
+        [](QWidget &station) {
+            conduite::Tape(*conduite::Trouve(station, u"New_Indicatif"_s), u"f2old"_s);
+            conduite::Entree(*conduite::Trouve(station, u"New_Indicatif"_s));
+            conduite::Entree(*conduite::Trouve(station, u"Validation"_s));
+        });
+    EXPECT_TRUE(QSO_Affiches().empty());
+    const QStringList avant = fichiers.Fichiers();
+    EXPECT_EQ(conduite::Repond({}, [this] { QTest::keyClick(&Controle_Nomme(u"Ind_A"_s), Qt::Key_Return); }),
+              std::vector<QString>{u"Selectionnez un diplome"_s});
+    EXPECT_EQ(En_Main()->objectName(), u"Dip_A"_s);
+    EXPECT_EQ(fichiers.Fichiers(), avant);
+}
+
+TEST_F(Clavier, un_challenge_se_tape_dans_dip_a)
+{
+    Regle(section, u"Annee Challenge DFCF"_s, u"2026"_s);
+    fichiers.Pose(u"F9ZZY_Ch_DFCF_2026.log"_s, {});
+    Prepare(u"DFCF"_s);
+    Frappe(u"ch_dfcf"_s);
+    EXPECT_EQ(Ecran().Dip_A(), u"Ch_DFCF"_s);
+    EXPECT_EQ(Controle_Nomme<QComboBox>(u"Dip_A"_s).currentText(), u"Ch_DFCF"_s);
+    EXPECT_EQ(conduite::Repond({}, [this] { Touche(Qt::Key_Return); }).size(), 1U);
+    EXPECT_EQ(Ecran().Texte(Controle::Frame3), u"Challenge DFCF année 2026"_s);
+}
+
+TEST_F(Clavier, un_diplome_choisi_dans_la_liste_ouverte_s_ouvre)
+{
+    Prepare(u"DFCF"_s);
+    auto &dip = Controle_Nomme<QComboBox>(u"Dip_A"_s);
+    dip.showPopup();
+    QTest::keyClick(dip.view(), Qt::Key_Down);
+    QTest::keyClick(dip.view(), Qt::Key_Return);
+    EXPECT_EQ(Ecran().Texte(Controle::Frame3), u"Diplome des Fontaines de France"_s);
+    EXPECT_EQ(En_Main()->objectName(), u"Bande_A"_s);
+    dip.showPopup();
+    const QModelIndex dlf = dip.model()->index(Rang(u"DLF"_s), 0);
+    QTest::mouseClick(dip.view()->viewport(), Qt::LeftButton, {}, dip.view()->visualRect(dlf).center());
+    EXPECT_EQ(Ecran().Texte(Controle::Frame3), u"Diplome des Lavoirs de France"_s);
+    EXPECT_EQ(Reglage(section, u"Diplome Utilise"_s), QString::number(Rang(u"DLF"_s)));
+}
+
+TEST_F(Clavier, avant_toute_station_la_liste_ouverte_n_ouvre_rien)
+{
+    Ouvre();
+    auto &dip = Controle_Nomme<QComboBox>(u"Dip_A"_s);
+    dip.showPopup();
+    QTest::keyClick(dip.view(), Qt::Key_Down);
+    EXPECT_EQ(conduite::Repond({}, [&] { QTest::keyClick(dip.view(), Qt::Key_Return); }).size(), 1U);
+    EXPECT_FALSE(Ecran().Est_Actif(Controle::Bande_A));
+}
+
 TEST_F(Clavier, chaque_controle_de_l_ecran_porte_son_nom)
 {
     Prepare(u"DFCF"_s);

@@ -120,20 +120,36 @@ TEST_F(Saisie_En_Chaine, fff_prend_tout_departement_et_aucun)
 TEST_F(Saisie_En_Chaine, sans_indicatif_de_station_la_touche_tombe)
 {
     essai.etat.indicatif = u"FXXXX"_s;
-    EXPECT_FALSE(Accepte_Touche(essai.poste, Ind_A));
+    essai.fichiers.Pose(u"FXXXX_DFCF.log"_s, "");
+    EXPECT_FALSE(Accepte_Touche(essai.poste, vue, Ind_A));
     EXPECT_EQ(
         essai.Messages(),
         std::vector<QString>{
             u"\n         Premiere installation, vous devez entrer votre Indicatif\n\nPour cela dans la barre des menus allez dans Station puis Nouvel Indicatif."_s});
-    EXPECT_FALSE(Accepte_Touche(essai.poste, Dip_A));
+    EXPECT_FALSE(Accepte_Touche(essai.poste, vue, Dip_A));
     EXPECT_EQ(
         essai.Messages(),
         std::vector<QString>{
             u"\n         Premiere installation, vous devez entrer votre Indicatif\n\nPour cela dans la barre des menus allez dans 'Station' puis 'Nouvel Indicatif'."_s});
-    EXPECT_TRUE(Accepte_Touche(essai.poste, Bande_A));
+    EXPECT_TRUE(Accepte_Touche(essai.poste, vue, Bande_A));
     essai.etat.indicatif = u"F9ZZY"_s;
-    EXPECT_TRUE(Accepte_Touche(essai.poste, Ind_A));
-    EXPECT_TRUE(Accepte_Touche(essai.poste, Dip_A));
+    EXPECT_TRUE(Accepte_Touche(essai.poste, vue, Ind_A));
+    EXPECT_TRUE(Accepte_Touche(essai.poste, vue, Dip_A));
+    EXPECT_TRUE(essai.Messages().empty());
+}
+
+TEST_F(Saisie_En_Chaine, sans_log_qui_s_ouvre_chaque_champ_demande_un_diplome)
+{
+    QFile::remove(essai.fichiers.Chemin(u"F9ZZY_DFCF.log"_s));
+    for (const Controle champ :
+         {Bande_A, Ind_A, Prenom_A, Ref_A, Dpt_A, Date_A, Heure_A, Mode_A, RSTR_A, RSTE_A, Nom_A, QSL_A}) {
+        vue.Active(champ, true);
+        vue.Donne_Focus(champ);
+        EXPECT_FALSE(Accepte_Touche(essai.poste, vue, champ));
+        EXPECT_EQ(essai.Messages(), std::vector<QString>{u"Selectionnez un diplome"_s});
+        EXPECT_EQ(vue.focus, Dip_A);
+    }
+    EXPECT_TRUE(Accepte_Touche(essai.poste, vue, Dip_A));
     EXPECT_TRUE(essai.Messages().empty());
 }
 

@@ -6,6 +6,8 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -30,6 +32,10 @@ protected:
     {
         vue.Ecrit(Dip_A, code.toString());
         Entree(essai.poste, vue, Dip_A);
+    }
+    static qsizetype Rang(QStringView code)
+    {
+        return std::find(codes_diplome.begin(), codes_diplome.end(), code) - codes_diplome.begin();
     }
     [[nodiscard]] QString Reglage(const QString &cle) const
     {
@@ -127,4 +133,40 @@ TEST_F(Diplome_Choisi, un_log_absent_est_dit)
 {
     QFile::remove(essai.fichiers.Chemin(u"F9ZZY_DMF.log"_s));
     EXPECT_EQ(Echec([&] { Ouvre(u"DMF"); })->La_Cause(), Cause::Fichier_Introuvable);
+}
+
+TEST_F(Diplome_Choisi, un_code_tape_sans_sa_casse_s_ouvre_sous_sa_forme)
+{
+    for (const auto &[tape, code] :
+         {std::pair(u"CH_DFCF"_s, u"Ch_DFCF"_s), std::pair(u"ch_dmf"_s, u"Ch_DMF"_s), std::pair(u"dlf"_s, u"DLF"_s)}) {
+        Ouvre(tape);
+        EXPECT_EQ(essai.etat.diplome, code);
+        EXPECT_EQ(vue.Texte(Dip_A), code);
+        EXPECT_EQ(Reglage(u"Diplome Utilise"_s), QString::number(Rang(code)));
+    }
+}
+
+TEST_F(Diplome_Choisi, un_code_tape_prend_sa_forme_des_sa_derniere_lettre)
+{
+    Ouvre(u"DFCF");
+    vue.Ecrit(Dip_A, u"CH_DM"_s);
+    Apres_Touche(essai.poste, vue, Dip_A);
+    EXPECT_EQ(vue.Texte(Dip_A), u"CH_DM"_s);
+    EXPECT_EQ(Reglage(u"Diplome Utilise"_s), u"-1"_s);
+    vue.Ecrit(Dip_A, u"CH_DMF"_s);
+    Apres_Touche(essai.poste, vue, Dip_A);
+    EXPECT_EQ(vue.Texte(Dip_A), u"Ch_DMF"_s);
+    EXPECT_EQ(Reglage(u"Diplome Utilise"_s), u"1"_s);
+    EXPECT_TRUE(vue.curseurs_a_la_fin.contains(Dip_A));
+    EXPECT_EQ(essai.etat.diplome, u"DFCF"_s);
+}
+
+TEST_F(Diplome_Choisi, un_choix_d_annee_sans_choix_remet_le_diplome_ouvert_dans_dip_a)
+{
+    essai.reglages.vorlain.erase({u"Setup F9ZZY"_s, u"Annee Challenge DMF"_s});
+    Ouvre(u"DFCF");
+    Ouvre(u"Ch_DMF");
+    EXPECT_EQ(essai.etat.diplome, u"DFCF"_s);
+    EXPECT_EQ(vue.Texte(Dip_A), u"DFCF"_s);
+    EXPECT_EQ(vue.Texte(Frame3), u"Diplome des Forts et Chateaux de France"_s);
 }

@@ -155,6 +155,15 @@ TEST_F(Insertion, sans_diplome_ouvert_elle_en_demande_un)
     EXPECT_EQ(vue.Texte(Mode_Aff), u"Saisie QSO"_s);
 }
 
+TEST_F(Insertion, sans_log_qui_s_ouvre_elle_demande_un_diplome)
+{
+    QFile::remove(essai.fichiers.Chemin(u"F9ZZY_DFCF.log"_s));
+    Commence_Insertion(essai.poste, vue);
+    EXPECT_EQ(essai.Messages(), std::vector<QString>{u"Selectionnez un diplome"_s});
+    EXPECT_EQ(vue.focus, Dip_A);
+    EXPECT_FALSE(essai.etat.saisie_differee);
+}
+
 TEST_F(Insertion, elle_commence_a_la_bande)
 {
     Clic(entree);
@@ -224,4 +233,15 @@ TEST_F(Suppression, le_dernier_qso_part_et_la_liste_est_vide)
     EXPECT_EQ(Log(), "");
     EXPECT_TRUE(vue.liste.empty());
     EXPECT_FALSE(vue.Est_Actif(Annule_Saisie));
+}
+
+TEST_F(Suppression, sans_log_qui_s_ouvre_elle_demande_un_diplome)
+{
+    Clic(entree);
+    QFile::remove(essai.fichiers.Chemin(u"F9ZZY_DFCF.log"_s));
+    Supprime_QSO(essai.poste, vue);
+    EXPECT_EQ(essai.Messages(), std::vector<QString>{u"Selectionnez un diplome"_s});
+    EXPECT_EQ(vue.focus, Dip_A);
+    EXPECT_TRUE(essai.boites.questions.empty());
+    EXPECT_FALSE(essai.fichiers.Existe(u"F9ZZY_DFCF.log"_s));
 }

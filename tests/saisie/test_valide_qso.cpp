@@ -258,10 +258,11 @@ TEST_F(Validation_QSO, une_bande_libre_revient_vide)
     EXPECT_EQ(vue.Texte(Bande_A), u""_s);
 }
 
-TEST_F(Validation_QSO, un_log_absent_ne_vide_pas_les_champs)
+TEST_F(Validation_QSO, un_echec_ne_vide_pas_les_champs)
 {
     Modifie(1);
-    QFile::remove(essai.fichiers.Chemin(u"F9ZZY_DFCF.log"_s));
+    essai.etat.prenom_nouveau = true;
+    QFile::remove(essai.fichiers.Chemin(u"Liste_Prenom.txt"_s));
     EXPECT_EQ(Echec([&] { Valide(); })->La_Cause(), Cause::Fichier_Introuvable);
     EXPECT_EQ(vue.Texte(Ref_A), u"05012"_s);
 }
@@ -329,6 +330,21 @@ TEST_F(Refus_A_La_Validation, un_texte_de_dip_a_qui_n_est_pas_un_code_demande_un
         Attend_Refus(Dip_A, u"Selectionnez un diplome"_s);
     }
     EXPECT_EQ(essai.fichiers.Fichiers(), (QStringList{u"F9ZZY_DFCF.log"_s, u"Liste_Prenom.txt"_s}));
+}
+
+TEST_F(Refus_A_La_Validation, sans_log_qui_s_ouvre_rien_ne_s_ecrit_et_un_diplome_est_demande)
+{
+    for (const bool differee : {false, true}) {
+        Remplit_Nouveau();
+        essai.etat.saisie_differee = differee;
+        QFile::remove(essai.fichiers.Chemin(u"F9ZZY_DFCF.log"_s));
+        Valide();
+        EXPECT_EQ(essai.Messages(), std::vector<QString>{u"Selectionnez un diplome"_s});
+        EXPECT_EQ(vue.focus, Dip_A);
+        EXPECT_TRUE(essai.boites.questions.empty());
+        EXPECT_EQ(essai.fichiers.Fichiers(), QStringList{u"Liste_Prenom.txt"_s});
+        EXPECT_EQ(vue.Texte(Ref_A), u"63087"_s);
+    }
 }
 
 TEST_F(Prenom_Retenu, un_prenom_nouveau_va_a_sa_liste_en_capitales)

@@ -55,6 +55,7 @@ Main::Main(const Ports &ports, Etat_Commun &etat) : poste_{ports, etat, *this}
         if (Est_Champ(controle) || controle == Controle::Valide_A)
             Colore(widget, couleur_finie);
     Relie_Champs();
+    Relie_Dip();
     Relie_Boutons();
     Relie_Liste();
     connect(&seconde_, &QTimer::timeout, this, [this] { Tique(poste_, *this); });
@@ -96,10 +97,19 @@ void Main::Relie_Champs()
             continue;
         const Controle champ = controle;
         new Chaine_Entree(widget, {.entree = [this, champ] { Entree(poste_, *this, champ); },
-                                   .accepte = [this, champ] { return Accepte_Touche(poste_, champ); },
+                                   .accepte = [this, champ] { return Accepte_Touche(poste_, *this, champ); },
                                    .avant = [this, champ](bool retour) { Avant_Touche(poste_, *this, champ, retour); },
                                    .apres = [this, champ] { Apres_Touche(poste_, *this, champ); }});
     }
+}
+
+void Main::Relie_Dip()
+{
+    auto *dip = qobject_cast<Combo *>(controles_.at(Controle::Dip_A));
+    connect(dip, &Combo::Choisie, this, [this] {
+        if (Accepte_Touche(poste_, *this, Controle::Dip_A))
+            Entree(poste_, *this, Controle::Dip_A);
+    });
 }
 
 void Main::Relie_Boutons()

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "log/Catalogue.h"
 #include "log/Poste.h"
 #include "saisie/Vue_Saisie.h"
 #include "saisie/ecrans/Zone_Saisie.h"
@@ -30,7 +31,7 @@ public:
     void Selectionne_QSO(std::size_t rang) override;
     [[nodiscard]] QString QSO_Selectionne() const override;
     void Active_Ind_A() override { Active(Controle::Ind_A, true); }
-    [[nodiscard]] QString Dip_A() const override { return Texte(Controle::Dip_A); }
+    [[nodiscard]] QString Dip_A() const override { return En_Forme_De_Code(Texte(Controle::Dip_A)); }
     [[nodiscard]] QString Ref_A() const override { return Texte(Controle::Ref_A); }
     [[nodiscard]] QString I_Station() const override { return Texte(Controle::I_Station); }
     void Efface() override;
@@ -58,6 +59,8 @@ protected:
 private:
     QWidget *Construit_Liste();
     void Relie_Champs();
+    /// An award chosen in the open list opens as with Enter.
+    void Relie_Dip();
     void Relie_Boutons();
     void Relie_Bouton(const QString &nom, const std::function<void()> &action);
     void Relie_Liste();
