@@ -4,8 +4,10 @@
 #include "log/Chemin_Log.h"
 #include "log/Ecran_Principal.h"
 #include "log/Etat_Commun.h"
+#include "log/Ligne_Log.h"
 #include "log/Moment.h"
 #include "log/Poste.h"
+#include "plateforme/Boites.h"
 #include "plateforme/Dossier.h"
 
 #include <algorithm>
@@ -33,7 +35,9 @@ QString Assemble(const Lignes_Texte &lignes, std::size_t place, std::optional<QS
 
 std::size_t Rang(const Lignes_Texte &lignes, QStringView ligne)
 {
-    return static_cast<std::size_t>(std::find(lignes.begin(), lignes.end(), ligne) - lignes.begin());
+    const auto place =
+        std::find_if(lignes.begin(), lignes.end(), [&](QStringView autre) { return Memes_Champs(autre, ligne); });
+    return static_cast<std::size_t>(place - lignes.begin());
 }
 
 /// A line without a readable moment is neither before nor after another one: it is passed over in the log, and goes to
@@ -54,6 +58,11 @@ void Recharge(Poste &poste, QStringView code)
 }
 
 } // namespace
+
+bool Est_Dans_Le_Log(const Lignes_Texte &lignes, QStringView ligne)
+{
+    return Rang(lignes, ligne) < lignes.size();
+}
 
 QString Texte_Remplace(const Lignes_Texte &lignes, QStringView nouvelle, QStringView ancienne)
 {
@@ -79,15 +88,21 @@ void Ajoute_Ligne(Poste &poste, QStringView ligne, QStringView code)
 void Remplace_Ligne(Poste &poste, QStringView nouvelle, QStringView ancienne)
 {
     const QString nom = Chemin_Log(poste.etat, poste.etat.diplome);
-    poste.dossier.Remplace(nom, Texte_Remplace(poste.dossier.Lit_Lignes(nom), nouvelle, ancienne), u"Temporaire.txt"_s);
+    const Lignes_Texte lignes = poste.dossier.Lit_Lignes(nom);
+    poste.dossier.Remplace(nom, Texte_Remplace(lignes, nouvelle, ancienne), u"Temporaire.txt"_s);
     Recharge(poste, poste.etat.diplome);
+    if (!Est_Dans_Le_Log(lignes, ancienne))
+        poste.boites.Message(u"L'ancien QSO n'est plus dans le log, le QSO modifié a été ajouté à la fin"_s);
 }
 
 void Supprime_Ligne(Poste &poste, QStringView ligne, QStringView code)
 {
     const QString nom = Chemin_Log(poste.etat, code);
-    poste.dossier.Remplace(nom, Texte_Supprime(poste.dossier.Lit_Lignes(nom), ligne), u"Temporaire.txt"_s);
+    const Lignes_Texte lignes = poste.dossier.Lit_Lignes(nom);
+    poste.dossier.Remplace(nom, Texte_Supprime(lignes, ligne), u"Temporaire.txt"_s);
     Recharge(poste, code);
+    if (!Est_Dans_Le_Log(lignes, ligne))
+        poste.boites.Message(u"Ce QSO n'est plus dans le log, rien n'a été supprimé"_s);
 }
 
 void Insere_Ligne(Poste &poste, QStringView ligne)

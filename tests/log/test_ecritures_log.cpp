@@ -3,6 +3,7 @@
 #include "faux/Impression.h"
 #include "faux/Poste_Essai.h"
 #include "faux/QSO_Essai.h"
+#include "log/Charge_Log.h"
 #include "log/Ecritures_Log.h"
 #include "outils/Log_Essai.h"
 
@@ -65,6 +66,8 @@ TEST_F(Ecritures, remplace_une_ligne_disparue_par_un_ajout)
 {
     Remplace_Ligne(essai.poste, nouvelle, QSO({.ref = u"99999"_s}));
     Attend_Log(u"ajoute.log"_s);
+    EXPECT_EQ(essai.boites.messages,
+              std::vector<QString>{u"L'ancien QSO n'est plus dans le log, le QSO modifié a été ajouté à la fin"_s});
 }
 
 TEST_F(Ecritures, remplace_et_insere_dans_le_log_du_diplome_courant)
@@ -91,10 +94,49 @@ TEST_F(Ecritures, supprime_dans_le_log_du_code)
     Attend_Log(u"supprime.log"_s);
 }
 
-TEST_F(Ecritures, supprime_une_ligne_disparue_ne_change_rien)
+TEST_F(Ecritures, supprime_une_ligne_disparue_ne_change_rien_recharge_la_liste_et_le_dit)
 {
+    essai.ecran.liste = Lignes_Texte(Texte_Log({QSO({.ref = u"99999"_s})}));
     Supprime_Ligne(essai.poste, QSO({.ref = u"99999"_s}), u"DFCF");
     EXPECT_EQ(essai.fichiers.Octets(journal), Donnee(u"journal.log"_s));
+    EXPECT_EQ(essai.ecran.liste.size(), essai.dossier.Lit_Lignes(journal).size());
+    EXPECT_EQ(essai.boites.messages, std::vector<QString>{u"Ce QSO n'est plus dans le log, rien n'a été supprimé"_s});
+}
+
+TEST_F(Ecritures, une_ligne_sans_ses_derniers_blancs_ou_trop_longue_se_supprime_et_se_remplace)
+{
+    const QString ligne = QSO({.dpt = u"97"_s, .ref = u"97101"_s, .nom = u"C. DE VAUX"_s});
+    const QString deborde = QString(ligne).replace(15, 1, u"1"_s) + u" et la suite";
+    const QByteArray abimees = deborde.toLatin1() + "\r\n" + ligne.first(89).toLatin1() + "\r\n";
+    for (const QByteArray &autre : {QByteArray(), QByteArray("court\r\n")}) {
+        essai.fichiers.Pose(journal, autre + abimees);
+        Supprime_Ligne(essai.poste, ligne, u"DFCF");
+        EXPECT_EQ(essai.fichiers.Octets(journal), autre + ligne.first(89).toLatin1() + "\r\n");
+        Remplace_Ligne(essai.poste, nouvelle, ligne);
+        EXPECT_EQ(essai.fichiers.Octets(journal), autre + nouvelle.toLatin1() + "\r\n");
+        EXPECT_TRUE(essai.boites.messages.empty());
+    }
+}
+
+TEST_F(Ecritures, les_autres_lignes_gardent_leurs_octets)
+{
+    const QByteArray deborde = QSO({.dpt = u"97"_s}).replace(15, 1, u"1"_s).toLatin1() + " et la suite\r\n";
+    const QByteArray courte = QSO({}).first(78).toLatin1() + "\r\n";
+    const QString visee = QSO({.ref = u"97101"_s});
+    essai.fichiers.Pose(journal, deborde + visee.toLatin1() + "\r\n" + courte);
+    Remplace_Ligne(essai.poste, nouvelle, visee);
+    EXPECT_EQ(essai.fichiers.Octets(journal), deborde + nouvelle.toLatin1() + "\r\n" + courte);
+    Supprime_Ligne(essai.poste, nouvelle, u"DFCF");
+    EXPECT_EQ(essai.fichiers.Octets(journal), deborde + courte);
+}
+
+TEST_F(Ecritures, une_tour_montree_sans_ses_blancs_de_devant_se_supprime)
+{
+    essai.Ouvre(u"TDC"_s);
+    essai.fichiers.Pose(u"F9ZZY_TDC.log"_s, Texte_Log({QSO({.ref = u" 11-008"_s})}).toLatin1());
+    Charge_Log(essai.poste, u"TDC");
+    Supprime_Ligne(essai.poste, Ligne_Log_Affichee(Ligne_Affichage(1, essai.ecran.liste[0])), u"TDC");
+    EXPECT_EQ(essai.fichiers.Octets(u"F9ZZY_TDC.log"_s), "");
 }
 
 TEST_F(Ecritures, supprime_la_derniere_ligne_laisse_un_log_vide)
@@ -219,11 +261,12 @@ TEST(Insere, une_nouvelle_ligne_sans_moment_va_a_la_fin)
               Texte_Log({avant, avant, sans_moment}));
 }
 
-TEST(Remplace, seul_un_texte_tout_a_fait_egal_est_remplace)
+TEST(Remplace, la_premiere_ligne_aux_memes_champs_est_remplacee)
 {
     const QString ligne = QSO({.ind = u"F5ABC"_s});
-    const QString presque = ligne + u' ';
-    EXPECT_EQ(Texte_Remplace(Lignes_Texte(Texte_Log({presque, ligne})), nouvelle, ligne),
-              Texte_Log({presque, nouvelle}));
-    EXPECT_EQ(Texte_Supprime(Lignes_Texte(Texte_Log({presque, ligne})), ligne), Texte_Log({presque}));
+    const QString longue = ligne + u' ';
+    const QString autre = QSO({.ind = u"F5ABC"_s, .qsl = u"*"_s});
+    EXPECT_EQ(Texte_Remplace(Lignes_Texte(Texte_Log({autre, longue, ligne})), nouvelle, ligne),
+              Texte_Log({autre, nouvelle, ligne}));
+    EXPECT_EQ(Texte_Supprime(Lignes_Texte(Texte_Log({autre, longue, ligne})), ligne), Texte_Log({autre, ligne}));
 }

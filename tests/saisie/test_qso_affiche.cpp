@@ -225,6 +225,32 @@ TEST_F(Suppression, un_texte_qui_n_est_pas_un_code_demande_un_diplome)
     EXPECT_TRUE(essai.boites.questions.empty());
 }
 
+TEST_F(Suppression, un_qso_disparu_entre_temps_se_dit_et_la_liste_montre_le_log)
+{
+    Clic(entree);
+    essai.fichiers.Pose(u"F9ZZY_DFCF.log"_s, autre.toLatin1() + "\r\n");
+    Supprime_QSO(essai.poste, vue);
+    EXPECT_EQ(essai.Messages(), std::vector<QString>{u"Ce QSO n'est plus dans le log, rien n'a été supprimé"_s});
+    EXPECT_EQ(Log(), autre.toLatin1() + "\r\n");
+    EXPECT_EQ(vue.liste.size(), 1U);
+    EXPECT_EQ(essai.etat.ligne_selectionnee, Ligne_Affichage(1, autre));
+    EXPECT_FALSE(vue.Est_Actif(Annule_Saisie));
+}
+
+TEST_F(Suppression, une_ligne_qui_deborde_ou_a_perdu_ses_blancs_part_aussi)
+{
+    const QString deborde = QString(ligne).replace(15, 1, u"1"_s) + u" et la suite";
+    const QString courte = Rogne(autre).toString();
+    essai.Ouvre_Log(u"DFCF"_s, deborde.toLatin1() + "\r\n" + courte.toLatin1() + "\r\n");
+    Clic(Ligne_Affichage(1, deborde));
+    Supprime_QSO(essai.poste, vue);
+    EXPECT_EQ(Log(), courte.toLatin1() + "\r\n");
+    Clic(Ligne_Affichage(1, courte));
+    Supprime_QSO(essai.poste, vue);
+    EXPECT_EQ(Log(), "");
+    EXPECT_TRUE(essai.Messages().empty());
+}
+
 TEST_F(Suppression, le_dernier_qso_part_et_la_liste_est_vide)
 {
     essai.Ouvre_Log(u"DFCF"_s, ligne.toLatin1() + "\r\n");

@@ -193,6 +193,45 @@ TEST_F(Validation_QSO, un_qso_disparu_entre_temps_est_garde_a_la_fin)
     essai.fichiers.Pose(u"F9ZZY_DFCF.log"_s, Octets({premiere}));
     Valide();
     EXPECT_EQ(Log(), Octets({premiere, seconde}));
+    EXPECT_EQ(essai.Messages(),
+              std::vector<QString>{u"L'ancien QSO n'est plus dans le log, le QSO modifié a été ajouté à la fin"_s});
+    Attend_Le_Suivant();
+}
+
+TEST_F(Validation_QSO, une_ligne_qui_deborde_de_ses_colonnes_se_modifie_sans_se_doubler)
+{
+    const QString deborde = QString(seconde).replace(15, 1, u"1"_s) + u" et la suite";
+    essai.Ouvre_Log(u"DFCF"_s, Octets({premiere, deborde, Rogne(troisieme).toString()}));
+    Modifie(1);
+    Valide();
+    EXPECT_EQ(Log(), Octets({premiere, seconde, Rogne(troisieme).toString()}));
+    Modifie(2);
+    Valide();
+    EXPECT_EQ(Log(), Octets({premiere, seconde, troisieme}));
+    EXPECT_TRUE(essai.Messages().empty());
+}
+
+TEST_F(Validation_QSO, une_modification_va_au_log_ouvert_quel_que_soit_le_texte_de_dip_a)
+{
+    Modifie(1);
+    vue.Ecrit(Nom_A, u"C. NOUVEAU"_s);
+    vue.Ecrit(Dip_A, u"XYZ"_s);
+    Valide();
+    EXPECT_TRUE(essai.Messages().empty());
+    EXPECT_EQ(vue.liste.size(), 3U);
+    EXPECT_EQ(Lit_Rogne(vue.liste[1], colonnes_log::Nom), u"C. NOUVEAU");
+    Attend_Le_Suivant();
+}
+
+TEST_F(Validation_QSO, une_insertion_va_au_log_ouvert_quel_que_soit_le_texte_de_dip_a)
+{
+    essai.etat.saisie_differee = true;
+    Remplit_Nouveau();
+    vue.Ecrit(Dip_A, u"XYZ"_s);
+    Valide();
+    EXPECT_TRUE(essai.Messages().empty());
+    EXPECT_EQ(Log(), Octets({premiere, Nouveau(), seconde, troisieme}));
+    Attend_Le_Suivant();
 }
 
 TEST_F(Validation_QSO, une_modification_d_un_indicatif_de_douze_caracteres_en_perd_deux)
