@@ -24,6 +24,8 @@ public:
 
     /// The text of Dip_A, a code in its own form whatever its case is there. It need not be the current award.
     [[nodiscard]] virtual QString Dip_A() const = 0;
+    /// Puts the focus there.
+    virtual void Va_A_Dip_A() = 0;
     /// The text of Ref_A: the reference on the entry line.
     [[nodiscard]] virtual QString Ref_A() const = 0;
     /// The text of I_Station: the call sign as shown.

@@ -1,6 +1,7 @@
 #include "outils/Fusion_Activite.h"
 
 #include "log/Chemin_Log.h"
+#include "log/Ecran_Principal.h"
 #include "log/Etat_Commun.h"
 #include "log/Poste.h"
 #include "outils/Fusion_Challenge.h"
@@ -36,10 +37,15 @@ std::vector<QString> Activations(const Lignes_Texte &source, const Lignes_Texte 
 
 void Fusion_Activite(Poste &poste, QStringView code)
 {
+    if (poste.ecran.Dip_A() != poste.etat.diplome) {
+        poste.boites.Message(u"Selectionnez un diplome"_s);
+        poste.ecran.Va_A_Dip_A();
+        return;
+    }
     poste.boites.Message(u"Attention toutes les références importées sont uniquement des Activations 'A'\n"
                          u"N'oubliez pas d'enregistrer toutes les réactivations 'R'"_s);
     const QString challenge = u"Ch_" + code;
-    const QString nom = Nom_Log_Fusion(poste, challenge);
+    const QString nom = Chemin_Log(poste.etat, poste.etat.diplome);
     const Lignes_Texte source = poste.dossier.Lit_Lignes(Chemin_Log_Sans_Annee(poste.etat.indicatif, code));
     Acheve_Fusion(poste, nom, Activations(source, poste.dossier.Lit_Lignes(nom), Annee_Courte(poste, challenge)));
 }

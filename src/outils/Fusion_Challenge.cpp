@@ -45,11 +45,6 @@ QStringView Annee_Courte(const Poste &poste, QStringView challenge)
     return annee.last(qMin(qsizetype{2}, annee.size()));
 }
 
-QString Nom_Log_Fusion(const Poste &poste, QStringView challenge)
-{
-    return poste.etat.indicatif + u'_' + poste.ecran.Dip_A() + u'_' + Annee(poste, challenge) + u".log";
-}
-
 QString Texte_En_Ordre(std::vector<QString> lignes)
 {
     Trie_Sans_Casse(lignes);

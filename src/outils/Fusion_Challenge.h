@@ -28,9 +28,6 @@ private:
 /// The last two digits of the year of a challenge: Ch_DMF, or Ch_DFCF for any other code.
 QStringView Annee_Courte(const Poste &poste, QStringView challenge);
 
-/// The log that a merge reads and writes: by the text of Dip_A, with the year of `challenge`.
-QString Nom_Log_Fusion(const Poste &poste, QStringView challenge);
-
 /// Lines as the sorted work list keeps them, each with its CR LF.
 QString Texte_En_Ordre(std::vector<QString> lignes);
 

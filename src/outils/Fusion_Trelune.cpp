@@ -2,6 +2,7 @@
 
 #include "listes/Index_Liste.h"
 #include "listes/Table_Recherches.h"
+#include "log/Chemin_Log.h"
 #include "log/Cles.h"
 #include "log/Etat_Commun.h"
 #include "log/Ligne_Log.h"
@@ -103,7 +104,7 @@ void Fusion_Trelune(Poste &poste)
     const QString dossier =
         poste.reglages.Lit_Trelune(u"Setup"_s, cles::chemin_repertoire.toString(), u"C:\\Vorlain_Trelune"_s);
     const Lignes_Texte qsos = poste.dossier.Lit_Lignes(dossier + u'/' + poste.etat.indicatif + u".log");
-    const QString nom = Nom_Log_Fusion(poste, challenge);
+    const QString nom = Chemin_Log(poste.etat, challenge);
     const Lignes_Texte anciennes = poste.dossier.Lit_Lignes(nom);
     Index_Liste chateaux(recherches::Cherche_DFCF, poste.dossier);
     const auto nom_du_chateau = [&](QStringView site) { return *chateaux.Cherche(site).sorties.nom; };

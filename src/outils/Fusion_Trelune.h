@@ -18,6 +18,6 @@ using Nom_De_Site = std::function<QString(QStringView site)>;
 std::vector<QString> Activations_Trelune(QStringView challenge, const Lignes_Texte &trelune,
                                          const Lignes_Texte &anciennes, QStringView annee, const Nom_De_Site &nom);
 
-/// Makes the log of the current challenge anew from the log of the sibling program. A challenge line without a line
-/// there goes: the sibling is the reference.
+/// Makes the log of the current challenge, the one that Liste_QSO shows, anew from the log of the sibling program. A
+/// challenge line without a line there goes: the sibling is the reference.
 void Fusion_Trelune(Poste &poste);

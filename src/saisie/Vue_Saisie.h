@@ -64,6 +64,7 @@ public:
     virtual void Active(Controle controle, bool actif) = 0;
     /// The control must be enabled. The text of a field or combo is selected, so that typing replaces it.
     virtual void Donne_Focus(Controle controle) = 0;
+    void Va_A_Dip_A() override { Donne_Focus(Controle::Dip_A); }
     /// The cursor goes behind the text of a field or combo, and nothing is selected: typing adds to it.
     virtual void Curseur_A_La_Fin(Controle champ) = 0;
 

@@ -24,6 +24,7 @@ public:
     [[nodiscard]] QString QSO_Selectionne() const override { return selection; }
     void Active_Ind_A() override { appels.push_back(QStringLiteral("Active_Ind_A")); }
     [[nodiscard]] QString Dip_A() const override { return dip_a; }
+    void Va_A_Dip_A() override { appels.push_back(QStringLiteral("Va_A_Dip_A")); }
     [[nodiscard]] QString Ref_A() const override { return ref_a; }
     [[nodiscard]] QString I_Station() const override { return i_station; }
     void Efface() override { appels.push_back(QStringLiteral("Efface")); }

@@ -112,13 +112,21 @@ TEST_F(Fusion_D_Activite, un_log_manquant_est_fatal_et_rien_n_est_ecrit)
     EXPECT_FALSE(essai.fichiers.Existe(u"F9ZZY_Ch_DFCF_2017.log"_s));
 }
 
-TEST_F(Fusion_D_Activite, le_log_porte_le_texte_de_dip_a)
+TEST_F(Fusion_D_Activite, un_autre_diplome_dans_dip_a_est_refuse_et_rien_n_est_ecrit)
 {
+    const QString ancienne = QSO({.ref = u"77009R"_s, .date = u"05/05/18"_s});
+    Pose(u"F9ZZY_Ch_DMF_2018.log"_s, {ancienne});
     Pose(u"F9ZZY_DFCF.log"_s, {QSO({.ref = u"77001"_s, .date = u"01/02/17"_s})});
-    essai.ecran.dip_a = u"WLF"_s;
-    Pose(u"F9ZZY_WLF.log"_s, {QSO({.ref = u"151"_s})});
-    EXPECT_THROW(Fusion_Activite(essai.poste, u"DFCF"), Erreur_Execution);
-    EXPECT_EQ(Log(u"F9ZZY_WLF.log"_s), Textes{QSO({.ref = u"151"_s})});
+    for (const QString &texte : {u"Ch_DMF"_s, u"WLF"_s, u""_s}) {
+        essai.ecran.dip_a = texte;
+        essai.ecran.appels.clear();
+        essai.boites.messages.clear();
+        Fusion_Activite(essai.poste, u"DFCF");
+        EXPECT_EQ(essai.boites.messages, Textes{u"Selectionnez un diplome"_s});
+        EXPECT_EQ(essai.ecran.appels, Textes{u"Va_A_Dip_A"_s});
+        EXPECT_EQ(Log(), Textes{});
+        EXPECT_EQ(Log(u"F9ZZY_Ch_DMF_2018.log"_s), Textes{ancienne});
+    }
 }
 
 TEST(Activations, comme_une_recherche_ligne_par_ligne)

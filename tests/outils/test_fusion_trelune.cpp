@@ -184,6 +184,19 @@ TEST_F(Fusion_De_Trelune, le_log_est_sans_double_et_trie_et_la_saisie_au_repos)
     EXPECT_EQ(essai.ecran.appels.back(), u"Selectionne_Derniere"_s);
 }
 
+TEST_F(Fusion_De_Trelune, un_autre_diplome_dans_dip_a_ne_change_pas_de_log)
+{
+    essai.etat.annee_ch_dmf = u"2018"_s;
+    const Textes moulins{QSO({.ref = u"77009R"_s, .nom = u"M. A MOI"_s})};
+    essai.fichiers.Pose(u"F9ZZY_Ch_DMF_2018.log"_s, Texte_Log(moulins).toLatin1());
+    const QString ancienne = QSO({.ref = u"77001R"_s, .nom = u"C. A MOI"_s});
+    Pose({ancienne});
+    essai.ecran.dip_a = u"Ch_DMF"_s;
+    EXPECT_EQ(Fusionne({{.site = u"77001"_s}}), Textes{ancienne});
+    EXPECT_EQ(En_Lignes(QString::fromLatin1(essai.fichiers.Octets(u"F9ZZY_Ch_DMF_2018.log"_s))), moulins);
+    EXPECT_EQ(essai.ecran.liste[0], ancienne);
+}
+
 TEST_F(Fusion_De_Trelune, ce_qui_manque_est_fatal_derriere_le_message_et_rien_n_est_ecrit)
 {
     const Textes anciennes{QSO({.ref = u"93001R"_s})};
