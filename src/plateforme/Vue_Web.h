@@ -10,7 +10,8 @@ class QWidget;
 class Vue_Web {
 public:
     virtual ~Vue_Web() = default;
-    /// The control that shows the pages; it belongs to the parent it was made with and goes with it.
+    /// The control that shows the pages; it belongs to the parent it was made with and goes with it. Its property
+    /// "url" is the page in view or on its way there, empty while there is none.
     [[nodiscard]] virtual QWidget *Controle() = 0;
     /// Shows a page of the web; an address without a scheme is one of plain http. An address of another kind, a file
     /// for one, is refused in words in the view.

@@ -90,6 +90,19 @@ TEST_F(Ecrans_Web, Affichage_demande_l_adresse_posee)
     EXPECT_TRUE(Recoit("/tour.php?NumTour=3"));
 }
 
+TEST_F(Ecrans_Web, WebBrowser1_repond_de_l_adresse_de_sa_page)
+{
+    const auto adresse = [](const QWidget &ecran) { return Trouve(ecran, u"WebBrowser1"_s)->property("url").toUrl(); };
+    const Cluster cluster(poste);
+    EXPECT_EQ(adresse(cluster), QUrl(serveur.Adresse(u"/dxc/top_250_HF.html"_s)));
+    essai.Ouvre(u"DFCF"_s);
+    const Reglements reglements(poste);
+    EXPECT_EQ(adresse(reglements), QUrl(serveur.Adresse(u"/reglement.html"_s)));
+    essai.etat.adresse_page = serveur.Adresse(u"/tour.php?NumTour=3"_s);
+    const Affichage affichage(poste);
+    EXPECT_EQ(adresse(affichage), QUrl(serveur.Adresse(u"/tour.php?NumTour=3"_s)));
+}
+
 TEST_F(Ecrans_Web, fermer_pendant_le_chargement_ne_laisse_rien_tourner)
 {
     serveur.Joue(u"/lente"_s, [](QTcpSocket &) {});

@@ -59,9 +59,14 @@ struct Vue_Reelle : ::testing::Test {
         ecran.show();
     }
 
-    void Page(const QString &chemin, const QByteArray &corps, const QByteArray &entetes = {})
+    void Page(const QString &chemin, const QByteArray &corps, const QByteArray &entetes = {}) const
     {
-        serveur.Joue(chemin, [=](QTcpSocket &prise) {
+        Page_De(serveur, chemin, corps, entetes);
+    }
+    static void Page_De(Serveur_Http &hote, const QString &chemin, const QByteArray &corps,
+                        const QByteArray &entetes = {})
+    {
+        hote.Joue(chemin, [=](QTcpSocket &prise) {
             prise.write("HTTP/1.1 200 OK\r\nContent-Type: text/html; charset=utf-8\r\n" + entetes + "Content-Length: " +
                         QByteArray::number(corps.size()) + "\r\nConnection: close\r\n\r\n" + corps);
             prise.disconnectFromHost();
@@ -225,6 +230,49 @@ TEST_F(Vue_Reelle, une_redirection_entre_pages_du_web_est_suivie)
     serveur.Renvoie(u"/a"_s, u"/b"_s);
     vue->Navigue(Au_Loin(u"/a"_s));
     EXPECT_TRUE(Montre(u"suite"_s));
+}
+
+TEST_F(Vue_Reelle, une_redirection_commencee_d_une_page_locale_mene_a_la_machine)
+{
+    Page_De(ici, u"/a"_s, Lien("/renvoi"));
+    ici.Renvoie(u"/renvoi"_s, ici.Adresse(u"/b"_s));
+    Page_De(ici, u"/b"_s, "suite");
+    vue->Navigue(ici.Adresse(u"/a"_s));
+    ASSERT_TRUE(Montre(u"lien"_s));
+    Clique();
+    EXPECT_TRUE(Montre(u"suite"_s));
+}
+
+TEST_F(Vue_Reelle, une_redirection_locale_que_le_programme_demande_est_suivie_de_toute_page)
+{
+    ici.Renvoie(u"/renvoi"_s, ici.Adresse(u"/b"_s));
+    Page_De(ici, u"/b"_s, "suite");
+    Page(u"/loin"_s, "loin");
+    for (const bool d_abord_loin : {false, true}) {
+        if (d_abord_loin) {
+            vue->Navigue(Au_Loin(u"/loin"_s));
+            ASSERT_TRUE(Montre(u"loin"_s));
+        }
+        vue->Navigue(ici.Adresse(u"/renvoi"_s));
+        EXPECT_TRUE(Montre(u"suite"_s));
+    }
+}
+
+TEST_F(Vue_Reelle, url_suit_la_page_et_se_vide_avec_un_texte)
+{
+    const auto url = [&] { return vue->Controle()->property("url").toUrl(); };
+    EXPECT_EQ(url(), QUrl());
+    Page(u"/a"_s, Lien("/b"));
+    Page(u"/b"_s, "suite");
+    vue->Navigue(serveur.Adresse(u"/a"_s));
+    EXPECT_EQ(url(), QUrl(serveur.Adresse(u"/a"_s)));
+    ASSERT_TRUE(Montre(u"lien"_s));
+    EXPECT_EQ(url(), QUrl(serveur.Adresse(u"/a"_s)));
+    Clique();
+    ASSERT_TRUE(Montre(u"suite"_s));
+    EXPECT_EQ(url(), QUrl(serveur.Adresse(u"/b"_s)));
+    vue->Dit(u"pas de page"_s);
+    EXPECT_EQ(url(), QUrl());
 }
 
 TEST_F(Vue_Reelle, un_lien_vers_un_fichier_ne_mene_nulle_part)

@@ -1,6 +1,5 @@
 #include "plateforme/Vue_Web.h"
-
-#include <QLabel>
+#include "plateforme/sans_web/Texte_De_Vue.h"
 
 using namespace Qt::StringLiterals;
 
@@ -8,23 +7,17 @@ namespace {
 
 class Vue_Sans_Moteur : public Vue_Web {
 public:
-    explicit Vue_Sans_Moteur(QWidget *parent) : texte_(new QLabel(parent))
-    {
-        texte_->setTextFormat(Qt::PlainText);
-        texte_->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
-        texte_->setAlignment(Qt::AlignCenter);
-        texte_->setWordWrap(true);
-    }
+    explicit Vue_Sans_Moteur(QWidget *parent) : texte_(new Texte_De_Vue(parent)) {}
 
     QWidget *Controle() override { return texte_; }
     void Navigue(const QString &adresse) override
     {
-        Dit(u"Cette version de Vorlain n'affiche pas les pages web : "_s + adresse);
+        texte_->Montre(u"Cette version de Vorlain n'affiche pas les pages web : "_s + adresse, QUrl(adresse));
     }
-    void Dit(const QString &texte) override { texte_->setText(texte); }
+    void Dit(const QString &texte) override { texte_->Montre(texte, {}); }
 
 private:
-    QLabel *texte_;
+    Texte_De_Vue *texte_;
 };
 
 class Vues_Sans_Moteur : public Vues_Web {
