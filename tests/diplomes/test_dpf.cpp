@@ -96,6 +96,39 @@ TEST(Provinces, les_deux_tables_disent_la_meme_province)
     EXPECT_EQ(noms[19], u"Provence-Cote-d'Azur"_s);
 }
 
+TEST(Provinces, chaque_nom_est_ecrit_comme_sur_la_liste)
+{
+    // clang-format off
+    const QStringList noms = {
+        u"Alsace              "_s,
+        u"Aquitaine           "_s,
+        u"Auvergne            "_s,
+        u"Basse-Normandie     "_s,
+        u"Bourgogne           "_s,
+        u"Bretagne            "_s,
+        u"Centre              "_s,
+        u"Champagne           "_s,
+        u"Corse               "_s,
+        u"Franche-Comte       "_s,
+        u"Haute-Normandie     "_s,
+        u"Langedoc-Rousillon  "_s,
+        u"Limousin            "_s,
+        u"Lorraine            "_s,
+        u"Midi-Pyrenees       "_s,
+        u"Nord                "_s,
+        u"Pays-de-Loire       "_s,
+        u"Picardie            "_s,
+        u"Poitou-Charentes    "_s,
+        u"Provence-Cote-d'Azur"_s,
+        u"Ile-de-France       "_s,
+        u"Rhone-Alpes         "_s,
+    };
+    // clang-format on
+    ASSERT_EQ(un_par_province.size(), noms.size());
+    for (qsizetype i = 0; i < noms.size(); ++i)
+        EXPECT_EQ(Nom(un_par_province[i]), noms[i]);
+}
+
 TEST(Provinces, 79_est_des_Pays_de_Loire_et_49_de_nulle_part)
 {
     EXPECT_EQ(Nom(u"79"_s).trimmed(), u"Pays-de-Loire"_s);
@@ -213,6 +246,47 @@ TEST(Fiche_DPF, atteint_en_phonie)
     EXPECT_EQ(Texte_De(etat, u"Label1"), u"Bravo vous pouvez obtenir le diplome DPF Simple Phonie HF"_s);
     EXPECT_EQ(Texte_De(etat, u"Label3"), u"avec les QSL des 22 Provinces confirmées"_s);
     EXPECT_EQ(Boutons_Actifs(etat), QStringList{u"DDFM_HF_PH"_s});
+}
+
+TEST(Fiche_DPF, chaque_niveau_atteint_a_son_texte_son_detail_et_son_bouton)
+{
+    struct Attendu {
+        QString genre, classe, mode, statut, texte, label, detail, bouton;
+    };
+    // clang-format off
+    const std::vector<Attendu> attendus = {
+        {u"Simple"_s, u"HF"_s, u"CW"_s, u"Label4"_s, u"Bravo vous pouvez obtenir le diplome DPF Simple CW HF"_s,
+         u"Label18"_s, u"avec les QSL des 22 Provinces confirmées"_s, u"DDFM_HF_CW"_s},
+        {u"Simple"_s, u"HF"_s, u"SSB"_s, u"Label1"_s, u"Bravo vous pouvez obtenir le diplome DPF Simple Phonie HF"_s,
+         u"Label3"_s, u"avec les QSL des 22 Provinces confirmées"_s, u"DDFM_HF_PH"_s},
+        {u"Simple"_s, u"THF"_s, u"CW"_s, u"Label4"_s, u"Bravo vous pouvez obtenir le diplome DPF Simple CW THF"_s,
+         u"Label18"_s, u"avec les QSL des 16 Provinces confirmées"_s, u"DDFM_HF_CW"_s},
+        {u"Simple"_s, u"THF"_s, u"SSB"_s, u"Label1"_s, u"Bravo vous pouvez obtenir le diplome DPF Simple Phonie THF"_s,
+         u"Label3"_s, u"avec les QSL des 16 Provinces confirmées"_s, u"DDFM_HF_PH"_s},
+        {u"5 Bandes"_s, u"HF"_s, u"CW"_s, u"Label4"_s, u"Bravo vous pouvez obtenir le diplome DPF 5 Bandes CW HF"_s,
+         u"Label18"_s, u"avec les  110 QSL des 5 Provinces confirmées"_s, u"DDFM_HF_CW"_s},
+        {u"5 Bandes"_s, u"HF"_s, u"SSB"_s, u"Label1"_s, u"Bravo vous pouvez obtenir le diplome DPF 5 Bandes Phonie HF"_s,
+         u"Label3"_s, u"avec les  110 QSL des 5 Provinces confirmées"_s, u"DDFM_HF_PH"_s},
+        {u"5 Bandes"_s, u"THF"_s, u"CW"_s, u"Label4"_s, u"Bravo vous pouvez obtenir le diplome DPF 5 Bandes CW THF"_s,
+         u"Label18"_s, u"avec les  110 QSL des 5 Provinces confirmées"_s, u"DDFM_HF_CW"_s},
+        {u"5 Bandes"_s, u"THF"_s, u"SSB"_s, u"Label1"_s, u"Bravo vous pouvez obtenir le diplome DPF 5 Bandes Phonie THF"_s,
+         u"Label3"_s, u"avec les  110 QSL des 5 Provinces confirmées"_s, u"DDFM_HF_PH"_s},
+    };
+    // clang-format on
+    for (const Attendu &attendu : attendus) {
+        Lignes_Essai lignes;
+        if (attendu.genre == u"5 Bandes")
+            for (const QString &bande : {u"1.8 Mhz"_s, u"3.5 Mhz"_s, u"7.0 Mhz"_s, u"24 Mhz"_s, u"28 Mhz"_s})
+                lignes = lignes + Provinces(22, bande, attendu.mode);
+        else
+            lignes = attendu.classe == u"HF" ? Provinces(22, u"14 Mhz"_s, attendu.mode)
+                                             : Provinces(16, u"432 Mhz"_s, attendu.mode);
+        const Etat_Fiche etat = Fiche(Variante(attendu.genre, attendu.classe), lignes);
+        EXPECT_TRUE(Est_Atteint(etat, attendu.statut));
+        EXPECT_EQ(Texte_De(etat, attendu.statut), attendu.texte);
+        EXPECT_EQ(Texte_De(etat, attendu.label), attendu.detail);
+        EXPECT_EQ(Boutons_Actifs(etat), QStringList{attendu.bouton});
+    }
 }
 
 TEST(Fiche_DPF, cinq_bandes_demande_110_sur_cinq_bandes_entieres)
