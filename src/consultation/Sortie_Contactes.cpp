@@ -51,6 +51,6 @@ void Imprime_Contactes(Poste &poste, const Contactes &contactes)
 {
     std::vector<QString> lignes = Corps(contactes);
     lignes.insert(lignes.end(), {QString(), QString(), Banniere(contactes, 21)});
-    if (const auto empechement = poste.imprimante.Imprime(lignes))
+    if (const auto empechement = poste.imprimante.Imprime(Titre_Contactes(contactes.code), lignes))
         poste.boites.Message(*empechement);
 }

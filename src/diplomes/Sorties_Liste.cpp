@@ -98,7 +98,7 @@ void Imprime_Liste(Poste &poste, const Liste_Diplome &liste, const Etat_Liste &e
 {
     const Valeurs valeurs = Valeurs_De_Sortie(poste, liste);
     const Sortie_De_Liste *sortie = Sortie_Choisie(liste, liste.pages, valeurs);
-    const auto refus = poste.imprimante.Imprime(Lignes_De_Page(liste, sortie, etat, valeurs));
+    const auto refus = poste.imprimante.Imprime(etat.titre, Lignes_De_Page(liste, sortie, etat, valeurs));
     if (refus)
         poste.boites.Message(*refus);
 }

@@ -2,6 +2,9 @@
 
 #include "plateforme/Erreur_Execution.h"
 
+#include <QString>
+
+#include <optional>
 #include <utility>
 
 /// Runs one step whose failure is passed over: the next statement of the caller runs regardless.
@@ -14,5 +17,17 @@ bool Tolere(Etape &&etape)
         return true;
     } catch (const Erreur_Execution &) {
         return false;
+    }
+}
+
+/// The same, where the user is to be told in the words of the operation: gives the text of the failure.
+template <typename Etape>
+std::optional<QString> Empechement(Etape &&etape)
+{
+    try {
+        std::forward<Etape>(etape)();
+        return std::nullopt;
+    } catch (const Erreur_Execution &erreur) {
+        return erreur.Texte();
     }
 }

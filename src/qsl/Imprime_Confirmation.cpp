@@ -72,6 +72,7 @@ void Imprime_Confirmation(Poste &poste, bool liste_vide, const std::vector<QStri
         poste.boites.Message(u"Pas de QSO a imprimer"_s);
         return;
     }
-    if (const auto empechement = poste.imprimante.Imprime(Lignes_Confirmation(cochees, indicatif)))
+    const QString titre = u"Confirmation des QSO de " + indicatif;
+    if (const auto empechement = poste.imprimante.Imprime(titre, Lignes_Confirmation(cochees, indicatif)))
         poste.boites.Message(*empechement);
 }

@@ -156,6 +156,7 @@ TEST(Imprime_Contactes, imprime_les_lignes_telles_qu_elles_sont)
     Pose_Log(essai);
     const Contactes contactes = Remplit_Contacte(essai.poste, u"DFCF", u"");
     Imprime_Contactes(essai.poste, contactes);
+    EXPECT_EQ(essai.imprimante.titres, std::vector{u"Liste alphanumérique des DFCF contacté(e)s"_s});
     ASSERT_EQ(essai.imprimante.documents.size(), 1U);
     const std::vector<QString> &lignes = essai.imprimante.documents[0];
     ASSERT_EQ(lignes.size(), 4U + contactes.lignes.size() + 3U);

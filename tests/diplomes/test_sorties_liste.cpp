@@ -139,6 +139,7 @@ TEST(Imprime_Liste, les_lignes_vont_a_l_imprimante_dans_leur_ordre)
 {
     Poste_DFCF essai;
     Imprime_Liste(essai.poste, liste_dfcf, essai.Liste());
+    EXPECT_EQ(essai.imprimante.titres, std::vector<QString>{u"Liste DFCF bande HF"_s});
     ASSERT_EQ(essai.imprimante.documents.size(), 1U);
     EXPECT_EQ(essai.imprimante.documents[0],
               (std::vector<QString>{

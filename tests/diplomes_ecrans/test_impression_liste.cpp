@@ -9,6 +9,7 @@
 #include "faux/QSO_Essai.h"
 #include "plateforme/Windows_1252.h"
 #include "plateforme/qt/Imprimante_Qt.h"
+#include "plateforme/qt/Mise_En_Page.h"
 
 #include <QFont>
 #include <QPrinter>
@@ -80,7 +81,7 @@ TEST(Impression_De_Liste, chaque_rang_tient_en_neuf_points_dans_une_page_A4)
                 if (liste->code == code) {
                     Imprime_Liste(essai.poste, *liste, Charge_Liste(essai.poste, *liste));
                     const std::vector<QString> &page = essai.imprimante.documents.back();
-                    EXPECT_DOUBLE_EQ(Police_D_Impression(imprimante, page).pointSizeF(), 9) << code.toStdString();
+                    EXPECT_DOUBLE_EQ(Mise_En_Page(imprimante, page).Police().pointSizeF(), 9) << code.toStdString();
                 }
         }
     }

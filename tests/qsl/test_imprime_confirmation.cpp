@@ -59,6 +59,7 @@ TEST(Imprime_Confirmation, imprime_les_lignes_cochees_et_dit_ce_qui_l_empeche)
 {
     Poste_Essai essai;
     Imprime_Confirmation(essai.poste, false, {QSO({})}, u"F5ABC");
+    EXPECT_EQ(essai.imprimante.titres, std::vector{u"Confirmation des QSO de F5ABC"_s});
     EXPECT_EQ(essai.imprimante.documents, std::vector<std::vector<QString>>{Lignes_Confirmation({QSO({})}, u"F5ABC")});
     EXPECT_TRUE(essai.boites.messages.empty());
     essai.imprimante.refus = u"plus de papier"_s;

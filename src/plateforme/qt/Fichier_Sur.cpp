@@ -134,6 +134,21 @@ void Ecrit_Temporaire(const QString &temporaire, QByteArrayView octets)
     fichier.Ferme();
 }
 
+/// A device or a pipe is no file that another can take the place of: it takes the bytes themselves.
+bool Est_Un_Peripherique(const QString &chemin)
+{
+    struct stat etat {};
+    return ::stat(QFile::encodeName(chemin).constData(), &etat) == 0 && !S_ISREG(etat.st_mode) &&
+           !S_ISDIR(etat.st_mode);
+}
+
+void Ecrit_Au_Peripherique(const QString &chemin, QByteArrayView octets)
+{
+    Descripteur peripherique(chemin, O_WRONLY);
+    peripherique.Ecrit(octets);
+    peripherique.Ferme();
+}
+
 struct stat Etat(const Descripteur &fichier, const QString &chemin)
 {
     struct stat etat {};
@@ -163,6 +178,10 @@ QString Cible_Reelle(const QString &chemin)
 void Remplace_Fichier(const QString &cible, QByteArrayView octets, const QString &temporaire)
 {
     const QString reelle = Cible_Reelle(cible);
+    if (Est_Un_Peripherique(reelle)) {
+        Ecrit_Au_Peripherique(reelle, octets);
+        return;
+    }
     try {
         Ecrit_Temporaire(temporaire, octets);
         struct stat ancien {};
