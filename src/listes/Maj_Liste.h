@@ -10,7 +10,7 @@ struct Poste;
 struct Maj {
     QStringView menu;
     QStringView serveur; ///< key of the host
-    QStringView chemin; ///< on the server
+    QStringView chemin;  ///< on the server
     QStringView fichier;
     QStringView cle; ///< of the setting that remembers the revision, per station
     QStringView defaut;

@@ -12,7 +12,7 @@ inline constexpr Champ Ind{1, 12};
 inline constexpr Champ Dpt{14, 2};
 inline constexpr Champ Prenom{19, 15};
 inline constexpr Champ Ref{35, 10};
-inline constexpr Champ Date{45, 8}; ///< JJ/MM/AA
+inline constexpr Champ Date{45, 8};  ///< JJ/MM/AA
 inline constexpr Champ Heure{54, 5}; ///< HH:MM, UTC
 inline constexpr Champ Mode{60, 3};
 inline constexpr Champ Bande{64, 7};

@@ -11,9 +11,8 @@ namespace {
 bool A_La_Forme(QStringView texte, QStringView forme)
 {
     // In `forme` a 0 stands for any digit; everything else for itself.
-    return std::equal(texte.begin(), texte.end(), forme.begin(), forme.end(), [](QChar lu, QChar voulu) {
-        return voulu == u'0' ? lu >= u'0' && lu <= u'9' : lu == voulu;
-    });
+    return std::equal(texte.begin(), texte.end(), forme.begin(), forme.end(),
+                      [](QChar lu, QChar voulu) { return voulu == u'0' ? lu >= u'0' && lu <= u'9' : lu == voulu; });
 }
 
 } // namespace

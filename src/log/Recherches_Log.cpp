@@ -28,8 +28,7 @@ Trouvaille Cherche_Ref_Dans(const Lignes_Texte &lignes, QStringView ref)
     return Premiere(lignes, [&](QStringView ligne) { return Lit_Rogne(ligne, col::Ref) == ref; });
 }
 
-Trouvaille Cherche_Dpt_Bande_Mode_Dans(const Lignes_Texte &lignes, QStringView dpt, QStringView bande,
-                                       QStringView mode)
+Trouvaille Cherche_Dpt_Bande_Mode_Dans(const Lignes_Texte &lignes, QStringView dpt, QStringView bande, QStringView mode)
 {
     return Premiere(lignes, [&](QStringView ligne) {
         return Lit_Rogne(ligne, col::Dpt) == dpt && Lit_Rogne(ligne, col::Bande) == bande &&
@@ -44,6 +43,6 @@ Trouvaille Cherche_Ref(const Poste &poste, QStringView code, QStringView ref)
 
 Trouvaille Cherche_Dpt_Bande_Mode(const Poste &poste, QStringView dpt, QStringView bande, QStringView mode)
 {
-    return Cherche_Dpt_Bande_Mode_Dans(poste.dossier.Lit_Lignes(Chemin_Log(poste.etat, poste.etat.diplome)), dpt,
-                                       bande, mode);
+    return Cherche_Dpt_Bande_Mode_Dans(poste.dossier.Lit_Lignes(Chemin_Log(poste.etat, poste.etat.diplome)), dpt, bande,
+                                       mode);
 }

@@ -5,7 +5,9 @@
 using namespace Qt::StringLiterals;
 
 Erreur_Execution::Erreur_Execution(Cause cause, QString texte)
-    : cause_(cause), texte_(std::move(texte)), utf8_(texte_.toUtf8())
+    : cause_(cause),
+      texte_(std::move(texte)),
+      utf8_(texte_.toUtf8())
 {
 }
 

@@ -18,7 +18,7 @@ QByteArray Encode_1252(QStringView texte);
 
 bool Est_Dans_1252(QChar caractere);
 
-/// Upper case within the code page, one letter for one letter: accented letters too; "ß" and other letters whose capital
-/// is not in the table stay.
+/// Upper case within the code page, one letter for one letter: accented letters too; "ß" and other letters whose
+/// capital is not in the table stay.
 QString Majuscules_1252(QStringView texte);
 QChar Majuscule_1252(QChar caractere);

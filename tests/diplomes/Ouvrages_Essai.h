@@ -21,7 +21,7 @@ auto Tire(std::mt19937 &hasard, const Textes &textes)
 inline Lignes_Essai Ouvrages_Au_Hasard(unsigned graine, std::size_t nombre)
 {
     const std::vector<QString> departements = {u"01"_s, u"45"_s, u"2A"_s, u"2b"_s, u"97"_s, u"  "_s, u"BA"_s, u"9"_s};
-    const std::vector<QString> lettres = {u"BA"_s, u"EC"_s, u"BS"_s, u"PT"_s, u"PC"_s, u"TU"_s, u"AQ"_s, u"MA"_s,
+    const std::vector<QString> lettres = {u"BA"_s, u"EC"_s, u"BS"_s, u"PT"_s, u"PC"_s, u"TU"_s,  u"AQ"_s, u"MA"_s,
                                           u"PE"_s, u"XX"_s, u"ec"_s, u"E"_s,  u"MI"_s, u"EC@"_s, u""_s};
     const std::vector<QString> signes = {u"*"_s, u" "_s};
     std::mt19937 hasard(graine);

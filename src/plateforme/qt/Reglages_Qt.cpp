@@ -24,9 +24,7 @@ QString Texte(const QSettings &magasin, const QString &cle, const QString &defau
 
 } // namespace
 
-Reglages_Qt::Reglages_Qt() : vorlain_(u"Vorlain"_s, u"Vorlain"_s), trelune_(u"Trelune"_s, u"Trelune"_s)
-{
-}
+Reglages_Qt::Reglages_Qt() : vorlain_(u"Vorlain"_s, u"Vorlain"_s), trelune_(u"Trelune"_s, u"Trelune"_s) {}
 
 QString Reglages_Qt::Lit(const QString &section, const QString &cle, const QString &defaut) const
 {

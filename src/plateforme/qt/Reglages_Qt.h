@@ -10,8 +10,7 @@ public:
     Reglages_Qt();
     [[nodiscard]] QString Lit(const QString &section, const QString &cle, const QString &defaut) const override;
     void Ecrit(const QString &section, const QString &cle, const QString &valeur) override;
-    [[nodiscard]] QString Lit_Trelune(const QString &section, const QString &cle,
-                                      const QString &defaut) const override;
+    [[nodiscard]] QString Lit_Trelune(const QString &section, const QString &cle, const QString &defaut) const override;
 
 private:
     QSettings vorlain_;
