@@ -1,7 +1,7 @@
 # vorlain_entetes(<target> <coeur|ecrans|essais>)
 #
 # Gives a target the precompiled headers of that kind (src/entetes), compiled once for all targets of the kind. With
-# VORLAIN_PCH=OFF every source stands on its own includes; so do the sanitizers and clang-tidy see it.
+# VORLAIN_PCH=OFF every source stands on its own includes; so clang-tidy sees it.
 function(vorlain_entetes cible genre)
     if(VORLAIN_PCH)
         target_precompile_headers(${cible} REUSE_FROM entetes_${genre})

@@ -1,6 +1,4 @@
-// Arbitrary bytes as an ADIF file: build the preset "fuzz", then run
-//     build/fuzz/tests/fuzz_import_adif -max_len=4096 -dict=tests/outils/fuzz/adif.dict <a folder of finds>
-//     tests/outils/donnees/corpus_adif
+// Arbitrary bytes as an ADIF file, read the fast way and the slow way.
 
 #include "Essai_Import.h"
 
