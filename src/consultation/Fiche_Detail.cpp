@@ -135,7 +135,7 @@ QString Reference_Selectionnee(const Poste &poste, const Fiche_Detail &fiche)
 Textes_Detail Cherche_Detail(Poste &poste, const Fiche_Detail &fiche, QStringView reference)
 {
     const Lignes_Texte lignes = poste.dossier.Lit_Lignes(fiche.fichier.toString());
-    const Textes_Detail trouves = fiche.trouve(lignes, reference);
+    Textes_Detail trouves = fiche.trouve(lignes, reference);
     if (!trouves.empty())
         return trouves;
     poste.boites.Message(u"Référence non trouvée"_s);

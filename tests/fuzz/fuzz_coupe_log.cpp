@@ -66,14 +66,14 @@ void Verifie_Migration(const Lignes_Texte &avant, QStringView code)
     const auto conversion = [](QStringView ancienne) -> std::optional<QString> {
         return ancienne.endsWith(u'9') ? std::optional(ancienne.sliced(2).toString()) : std::nullopt;
     };
-    const std::optional<QString> texte = Migre(code, avant, conversion);
-    Exige(!texte || code != u"DFCF", "a log without older forms stays");
-    if (!texte)
+    const std::optional<Log_Migre> migre = Migre(code, avant, conversion);
+    Exige(!migre || code != u"DFCF", "a log without older forms stays");
+    if (!migre)
         return;
-    const Lignes_Texte apres(*texte);
-    Exige(apres.size() == avant.size(), "no line is lost or won", *texte);
+    const Lignes_Texte apres(migre->texte);
+    Exige(apres.size() == avant.size(), "no line is lost or won", migre->texte);
     for (std::size_t rang = 0; rang < avant.size(); ++rang)
-        if (avant[rang] != apres[rang] && avant[rang].size() >= colonnes_log::longueur)
+        if (avant[rang].size() >= colonnes_log::longueur)
             Exige(Sans_Reference(apres[rang]) == Sans_Reference(Compose_Ligne_Log(Champs_Log(avant[rang]))),
                   "only the reference changes", apres[rang].toString());
 }
