@@ -26,6 +26,8 @@ constexpr QStringView lignes[] = {
 
 } // namespace
 
+const QStringView version_vorlain = u"V" VORLAIN_VERSION;
+
 QString Historique()
 {
     QString texte;

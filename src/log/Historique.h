@@ -3,7 +3,7 @@
 #include <QString>
 
 /// The version of the program, as titles and settings show it.
-inline constexpr QStringView version_vorlain = u"V1.2.5c";
+extern const QStringView version_vorlain;
 
 /// The history of the versions, each line behind a line break.
 QString Historique();

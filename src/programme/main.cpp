@@ -2,19 +2,22 @@
 #include "plateforme/qt/Boites_Qt.h"
 #include "plateforme/qt/Horloge_Systeme.h"
 #include "programme/Application.h"
+#include "programme/Ligne_Commande.h"
 #include "programme/Programme.h"
 #include "programme/Repertoire.h"
 
 #include <QDir>
+
+#include <cstdio>
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
 /// The program from its first step to the close of the main screen; gives the exit status.
-int Tourne()
+int Tourne(const Ligne_Commande &ligne)
 {
-    const QString repertoire = Repertoire_Appli();
+    const QString repertoire = ligne.repertoire.isEmpty() ? Repertoire_Appli() : ligne.repertoire;
     const bool premiere_fois = !QDir(repertoire).exists();
     const std::unique_ptr<QLockFile> verrou = Prend_Repertoire(repertoire);
     if (!verrou) {
@@ -30,15 +33,32 @@ int Tourne()
     return QApplication::exec();
 }
 
+QStringList Textes(int nombre, char **arguments)
+{
+    QStringList textes;
+    for (int rang = 0; rang < nombre; ++rang)
+        textes += QString::fromLocal8Bit(arguments[rang]);
+    return textes;
+}
+
+int Repond(const Ligne_Commande::Reponse &reponse)
+{
+    std::fputs(reponse.texte.toLocal8Bit().constData(), reponse.statut == 0 ? stdout : stderr);
+    return reponse.statut;
+}
+
 } // namespace
 
 int main(int nombre, char **arguments)
 {
+    const Ligne_Commande ligne = Lit_Ligne_Commande(Textes(nombre, arguments));
+    if (ligne.reponse)
+        return Repond(*ligne.reponse);
     QCoreApplication::setOrganizationName(u"Vorlain"_s);
     QCoreApplication::setApplicationName(u"Vorlain"_s);
     const Application application(nombre, arguments);
     try {
-        return Tourne();
+        return Tourne(ligne);
     } catch (const Erreur_Execution &erreur) {
         Termine_Sur(erreur);
     }
