@@ -3,6 +3,7 @@
 #include "plateforme/Erreur_Execution.h"
 #include "plateforme/qt/Boites_Qt.h"
 
+#include <QIcon>
 #include <QLibraryInfo>
 #include <QTranslator>
 
@@ -10,6 +11,16 @@
 #include <cstdlib>
 
 using namespace Qt::StringLiterals;
+
+/// Outside the namespace below: the macro declares a function of the resource compiler's.
+static QIcon Icone()
+{
+    Q_INIT_RESOURCE(icone);
+    QIcon icone;
+    for (const int cote : {16, 32, 48, 128})
+        icone.addFile(u":/icone/%1.png"_s.arg(cote));
+    return icone;
+}
 
 namespace {
 
@@ -24,6 +35,8 @@ int &Partage_Les_Contextes(int &nombre)
 
 Application::Application(int &nombre, char **arguments) : QApplication(Partage_Les_Contextes(nombre), arguments)
 {
+    setDesktopFileName(u"org.vorlain.Vorlain"_s);
+    setWindowIcon(Icone());
     // The colours of the fields go by palette, which this style follows on every desktop.
     setStyle(u"Fusion"_s);
     QLocale::setDefault(QLocale(QLocale::French, QLocale::France));
