@@ -75,7 +75,7 @@ void Lecture_Des_Enregistrements(benchmark::State &etat)
     for (auto _ : etat) {
         const Lignes_Texte lignes(Majuscules_1252(Decode_1252(octets)));
         Enregistrements_ADIF enregistrements(lignes);
-        Lignes_ADIF convertit(u"DFCF"_s, {});
+        Lignes_ADIF convertit(Diplome::DFCF, {});
         while (const auto enregistrement = enregistrements.Suivant())
             benchmark::DoNotOptimize(convertit.Lit(*enregistrement));
     }

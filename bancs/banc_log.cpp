@@ -36,11 +36,11 @@ struct Logbook {
     explicit Logbook(std::int64_t lignes)
     {
         essai.fichiers.Pose(u"F9ZZY_DFCF.log"_s, Log(lignes));
-        essai.etat.diplome = u"DFCF"_s;
+        essai.etat.station.diplome = Diplome::DFCF;
         ecran.Choisit(Controle::Dip_A, 6);
         ecran.resize(1300, 700);
         ecran.show();
-        Charge_Log(ecran.Le_Poste(), u"DFCF");
+        Charge_Log(ecran.Le_Poste(), Diplome::DFCF);
         QApplication::processEvents();
     }
     [[nodiscard]] QString Chemin() const { return essai.fichiers.Chemin(u"F9ZZY_DFCF.log"_s); }
@@ -69,7 +69,7 @@ void Chargement_Et_Affichage(benchmark::State &etat)
 {
     Logbook logbook(etat.range(0));
     for (auto _ : etat) {
-        Charge_Log(logbook.ecran.Le_Poste(), u"DFCF");
+        Charge_Log(logbook.ecran.Le_Poste(), Diplome::DFCF);
         logbook.ecran.Selectionne_Derniere();
         QApplication::processEvents();
     }
@@ -80,7 +80,7 @@ void Enregistrement_D_Un_QSO(benchmark::State &etat)
     Logbook logbook(etat.range(0));
     const QString ligne = QSO({.dpt = u"77"_s, .ref = u"77001"_s});
     for (auto _ : etat) {
-        Ajoute_Ligne(logbook.ecran.Le_Poste(), ligne, u"DFCF");
+        Ajoute_Ligne(logbook.ecran.Le_Poste(), ligne, Diplome::DFCF);
         QApplication::processEvents();
     }
 }

@@ -1,6 +1,5 @@
 #include "consultation/Colorie_Carte.h"
 
-#include "log/Chemin_Log.h"
 #include "log/Etat_Commun.h"
 #include "log/Ligne_Log.h"
 #include "log/Poste.h"
@@ -84,7 +83,7 @@ int Non_Contactes(const Bilan_Carte &bilan)
 
 Carte_Contactee Colorie_Carte(const Poste &poste)
 {
-    const Couleurs_Carte couleurs = Colorie(poste.dossier.Lit_Lignes(Chemin_Log(poste.etat, poste.etat.diplome)));
+    const Couleurs_Carte couleurs = Colorie(poste.dossier.Lit_Lignes(poste.etat.station.Log_Courant()));
     return {.couleurs = couleurs, .bilan = Compte(couleurs)};
 }
 

@@ -1,6 +1,5 @@
 #include "consultation/Contactes.h"
 
-#include "log/Chemin_Log.h"
 #include "log/Etat_Commun.h"
 #include "log/Ligne_Log.h"
 #include "log/Ordre.h"
@@ -47,9 +46,9 @@ QString Ligne_Travail(QStringView ligne_log, bool par_departement)
 }
 
 /// Two lines of one station in different minutes are both kept on the awards without a reference of their own.
-QString Cle(QStringView ligne, QStringView code)
+QString Cle(QStringView ligne, std::optional<Diplome> diplome)
 {
-    if (code == u"DDFM" || code == u"DYLF")
+    if (diplome == Diplome::DDFM || diplome == Diplome::DYLF)
         return Lit_Rogne(ligne, cle_station).toString() + Lit_Rogne(ligne, cle_minutes);
     return Lit_Rogne(ligne, cle_reference).toString();
 }
@@ -61,26 +60,26 @@ QString Numerotee(std::size_t numero, QStringView ligne)
 
 } // namespace
 
-bool Choisit_Une_Bande(QStringView code)
+bool Choisit_Une_Bande(std::optional<Diplome> diplome)
 {
-    return code == u"DDFM";
+    return diplome == Diplome::DDFM;
 }
 
-QString Titre_Contactes(QStringView code)
+QString Titre_Contactes(std::optional<Diplome> diplome)
 {
-    return u"Liste alphanumérique des " + code + u" contacté(e)s";
+    return u"Liste alphanumérique des " + Code(diplome) + u" contacté(e)s";
 }
 
-QStringView Entete_Contactes(QStringView code)
+QStringView Entete_Contactes(std::optional<Diplome> diplome)
 {
-    if (code == u"DDFM")
+    if (diplome == Diplome::DDFM)
         return entete_ddfm;
-    return code == u"DYLF" ? entete_dylf : entete_autres;
+    return diplome == Diplome::DYLF ? entete_dylf : entete_autres;
 }
 
-std::vector<QString> Lignes_Contactes(const Lignes_Texte &log, QStringView code, QStringView bande)
+std::vector<QString> Lignes_Contactes(const Lignes_Texte &log, std::optional<Diplome> diplome, QStringView bande)
 {
-    const bool une_bande = Choisit_Une_Bande(code);
+    const bool une_bande = Choisit_Une_Bande(diplome);
     std::vector<QString> triees;
     triees.reserve(log.size());
     for (const QStringView ligne : log)
@@ -92,7 +91,7 @@ std::vector<QString> Lignes_Contactes(const Lignes_Texte &log, QStringView code,
     for (const QString &ligne : triees) {
         if (une_bande && Lit_Rogne(ligne, bande_travail) != bande)
             continue;
-        QString cle = Cle(ligne, code);
+        QString cle = Cle(ligne, diplome);
         if (cle != precedente)
             lignes.push_back(Numerotee(lignes.size() + 1, ligne));
         precedente = std::move(cle);
@@ -100,11 +99,11 @@ std::vector<QString> Lignes_Contactes(const Lignes_Texte &log, QStringView code,
     return lignes;
 }
 
-Contactes Remplit_Contacte(const Poste &poste, QStringView code, QStringView bande)
+Contactes Remplit_Contacte(const Poste &poste, std::optional<Diplome> diplome, QStringView bande)
 {
-    const Lignes_Texte log = poste.dossier.Lit_Lignes(Chemin_Log(poste.etat, code));
-    return {.indicatif = poste.etat.indicatif,
-            .code = code.toString(),
+    const Lignes_Texte log = poste.dossier.Lit_Lignes(poste.etat.station.Log(diplome));
+    return {.indicatif = poste.etat.station.indicatif,
+            .diplome = diplome,
             .date = poste.horloge.Locale().date(),
-            .lignes = Lignes_Contactes(log, code, bande)};
+            .lignes = Lignes_Contactes(log, diplome, bande)};
 }

@@ -32,27 +32,27 @@ const std::array<Bande_Cluster, 14> bandes_cluster = {{
 namespace {
 
 constexpr Reglement reglements[] = {
-    {u"DAF", u"DAF", u"/"},
-    {u"DCF", u"DCF", u"/ "}, // the blank belongs to the address
-    {u"DCPF", u"DCPF", u"/"},
-    {u"DDFM", u"DDFM", u"/"},
-    {u"DFCF", u"DFCF", u"/reglement.html"},
-    {u"DFF", u"DFF", u""},
-    {u"DIFI", u"DIFI", u"/activites-nature/difi/"},
-    {u"DIFM", u"DIFM", u"/index.php?Itemid=305"},
-    {u"DOHF", u"DOHF", u"/site/dohfhydro/reglement"},
-    {u"DPF", u"DDFM", u"/"}, // shares the page of DDFM on purpose
-    {u"DPLF", u"DPLF", u"/reglement-f.htm"},
-    {u"DMF", u"DMF", u"/reglements/dmf"},
-    {u"DLF", u"DLF", u"/DLF/DLF.html"},
-    {u"DVFF", u"DVFF", u"/?page_id=17"},
-    {u"DYLF", u"DYLF", u"/yls/fr/diplome-yl-france-2015"},
-    {u"TDC", u"TDC", u"/"},
-    {u"FFF", u"FFF", u"/diplomes-fff/diplomes-fff/"},
-    {u"WLF", u"WLF", u"/autres-programmes/les-lacs/"},
-    {u"PC", u"PC", u"/index.php?mod=reglement"},
-    {u"Ch_DFCF", u"DFCF", u"/coupes.html"},
-    {u"Ch_DMF", u"DMF", u"/reglements/challenge-dmf"},
+    {Diplome::DAF, u"DAF", u"/"},
+    {Diplome::DCF, u"DCF", u"/ "}, // the blank belongs to the address
+    {Diplome::DCPF, u"DCPF", u"/"},
+    {Diplome::DDFM, u"DDFM", u"/"},
+    {Diplome::DFCF, u"DFCF", u"/reglement.html"},
+    {Diplome::DFF, u"DFF", u""},
+    {Diplome::DIFI, u"DIFI", u"/activites-nature/difi/"},
+    {Diplome::DIFM, u"DIFM", u"/index.php?Itemid=305"},
+    {Diplome::DOHF, u"DOHF", u"/site/dohfhydro/reglement"},
+    {Diplome::DPF, u"DDFM", u"/"}, // shares the page of DDFM on purpose
+    {Diplome::DPLF, u"DPLF", u"/reglement-f.htm"},
+    {Diplome::DMF, u"DMF", u"/reglements/dmf"},
+    {Diplome::DLF, u"DLF", u"/DLF/DLF.html"},
+    {Diplome::DVFF, u"DVFF", u"/?page_id=17"},
+    {Diplome::DYLF, u"DYLF", u"/yls/fr/diplome-yl-france-2015"},
+    {Diplome::TDC, u"TDC", u"/"},
+    {Diplome::FFF, u"FFF", u"/diplomes-fff/diplomes-fff/"},
+    {Diplome::WLF, u"WLF", u"/autres-programmes/les-lacs/"},
+    {Diplome::PC, u"PC", u"/index.php?mod=reglement"},
+    {Diplome::Ch_DFCF, u"DFCF", u"/coupes.html"},
+    {Diplome::Ch_DMF, u"DMF", u"/reglements/challenge-dmf"},
 };
 // clang-format on
 
@@ -78,10 +78,10 @@ void Choisit_Cluster(Poste &poste, int place)
     poste.etat.adresse_page = Adresse_Serveur(poste, u"Cluster", Chemin_Cluster(static_cast<std::size_t>(place)));
 }
 
-std::optional<Reglement> Reglement_De(QStringView code)
+std::optional<Reglement> Reglement_De(std::optional<Diplome> diplome)
 {
     const auto *reglement = std::find_if(std::begin(reglements), std::end(reglements),
-                                         [&](const Reglement &un) { return un.code == code; });
+                                         [&](const Reglement &un) { return un.diplome == diplome; });
     if (reglement == std::end(reglements))
         return std::nullopt;
     return *reglement;
@@ -89,7 +89,7 @@ std::optional<Reglement> Reglement_De(QStringView code)
 
 void Choisit_Reglement(Poste &poste)
 {
-    if (const std::optional<Reglement> reglement = Reglement_De(poste.etat.diplome))
+    if (const std::optional<Reglement> reglement = Reglement_De(poste.etat.station.diplome))
         poste.etat.adresse_page = Adresse_Serveur(poste, QString(u"Reglement " + reglement->site), reglement->chemin);
 }
 

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "log/Diplome.h"
+
 #include <QString>
 
 #include <array>
@@ -25,14 +27,14 @@ int Place_Cluster(const Poste &poste);
 /// Stores the place and makes its page the page address. Empty without a host.
 void Choisit_Cluster(Poste &poste, int place);
 
-/// Where the rules of an award are: the award whose site it is, and the path there. nullopt for a text that is no
+/// Where the rules of an award are: the award whose site it is, and the path there. nullopt without an
 /// award.
 struct Reglement {
-    QStringView code;
+    Diplome diplome;
     QStringView site;
     QStringView chemin;
 };
-std::optional<Reglement> Reglement_De(QStringView code);
+std::optional<Reglement> Reglement_De(std::optional<Diplome> diplome);
 
 /// Makes the rules of the current award the page address, empty without a host; an award without rules leaves it as it
 /// was.

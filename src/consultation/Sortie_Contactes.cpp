@@ -18,7 +18,7 @@ constexpr QStringView devant_titre = u"                                  ";
 /// Title, heading and rows, as they stand on paper and in the file.
 std::vector<QString> Corps(const Contactes &contactes)
 {
-    std::vector<QString> lignes{devant_titre + contactes.indicatif + u" activations " + contactes.code +
+    std::vector<QString> lignes{devant_titre + contactes.indicatif + u" activations " + Code(contactes.diplome) +
                                     u" contactées au " + Date_De_Reglage(contactes.date),
                                 {},
                                 colonnes.toString(),
@@ -36,8 +36,8 @@ QString Banniere(const Contactes &contactes, qsizetype blancs)
 
 void Enregistre_Contactes(Poste &poste, const Contactes &contactes)
 {
-    const QString nom =
-        contactes.indicatif + u"_activations_" + contactes.code + u'_' + Date_De_Fichier(contactes.date) + u".txt";
+    const QString nom = contactes.indicatif + u"_activations_" + Code(contactes.diplome) + u'_' +
+                        Date_De_Fichier(contactes.date) + u".txt";
     std::vector<QString> lignes = Corps(contactes);
     lignes.insert(lignes.end(), {QString(), Banniere(contactes, 24)});
     QString texte;
@@ -51,6 +51,6 @@ void Imprime_Contactes(Poste &poste, const Contactes &contactes)
 {
     std::vector<QString> lignes = Corps(contactes);
     lignes.insert(lignes.end(), {QString(), QString(), Banniere(contactes, 21)});
-    if (const auto empechement = poste.imprimante.Imprime(Titre_Contactes(contactes.code), lignes))
+    if (const auto empechement = poste.imprimante.Imprime(Titre_Contactes(contactes.diplome), lignes))
         poste.boites.Message(*empechement);
 }

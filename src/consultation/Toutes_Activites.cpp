@@ -1,7 +1,6 @@
 #include "consultation/Toutes_Activites.h"
 
-#include "log/Catalogue.h"
-#include "log/Chemin_Log.h"
+#include "log/Etat_Commun.h"
 #include "log/Ligne_Log.h"
 #include "log/Poste.h"
 #include "log/Reglages_Station.h"
@@ -46,9 +45,9 @@ std::vector<QString> Toutes_Activites(Poste &poste, QStringView texte)
     std::vector<QString> entrees;
     // The activator found in one award is looked for in the next ones.
     std::optional<QString> activateur;
-    for (const QStringView code : codes_diplome) {
-        entrees.push_back(code + u" -----");
-        Ajoute_Activites(entrees, poste.dossier.Lit_Lignes(Chemin_Log(poste.etat, code)), texte, activateur);
+    for (const Diplome diplome : tous_les_diplomes) {
+        entrees.push_back(Code(diplome) + u" -----");
+        Ajoute_Activites(entrees, poste.dossier.Lit_Lignes(poste.etat.station.Log(diplome)), texte, activateur);
     }
     return entrees;
 }

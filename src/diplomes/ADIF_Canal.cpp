@@ -2,7 +2,6 @@
 
 #include "diplomes/regles/Enregistrement_ADIF.h"
 #include "log/Champ.h"
-#include "log/Chemin_Log.h"
 #include "log/Etat_Commun.h"
 #include "log/Poste.h"
 #include "plateforme/Boites.h"
@@ -71,9 +70,9 @@ QString Ligne_ADIF_Canal(QStringView ligne_log)
 
 void ADIF_Challenge(Poste &poste, const Etat_Challenge &etat, QStringView palier)
 {
-    const QString &indicatif = poste.etat.indicatif;
+    const QString &indicatif = poste.etat.station.indicatif;
     const QString nom = indicatif + u" Diplome " + etat.entete + u' ' + palier + u".adi";
-    const Lignes_Texte lignes = poste.dossier.Lit_Lignes(Chemin_Log(poste.etat, u"DOHF"));
+    const Lignes_Texte lignes = poste.dossier.Lit_Lignes(poste.etat.station.Log(Diplome::DOHF));
     const std::map<QStringView, QStringView> premieres = Premieres_Lignes(lignes);
     QString texte = Entete(indicatif);
     for (const QString &rang : etat.rangs)

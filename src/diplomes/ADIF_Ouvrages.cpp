@@ -2,7 +2,6 @@
 
 #include "diplomes/regles/Ligne_ADIF_Ouvrage.h"
 #include "diplomes/regles/Lignes_Retenues.h"
-#include "log/Chemin_Log.h"
 #include "log/Etat_Commun.h"
 #include "log/Ligne_Log.h"
 #include "log/Moment.h"
@@ -28,9 +27,9 @@ void Ecrit_ADIF(Poste &poste, const Liste_Diplome &liste, Etat_Liste &etat, Pred
 {
     etat.entete.replace(u'/', u'_');
     const QString jour = Date_De_Fichier(poste.horloge.Locale().date());
-    const QString nom = poste.etat.indicatif + u' ' + etat.entete + u" le " + jour + u".adi";
-    QString texte = Entete_ADIF(poste.etat, liste.code);
-    for (const QStringView ligne : poste.dossier.Lit_Lignes(Chemin_Log(poste.etat, liste.code)))
+    const QString nom = poste.etat.station.indicatif + u' ' + etat.entete + u" le " + jour + u".adi";
+    QString texte = Entete_ADIF(poste.etat, liste.diplome);
+    for (const QStringView ligne : poste.dossier.Lit_Lignes(poste.etat.station.Log(liste.diplome)))
         if (retient(ligne, poste.etat))
             texte += Ligne_ADIF_Ouvrage(ligne) + fin_de_ligne;
     poste.dossier.Remplace(nom, texte, u"Temporaire_ADIF.txt"_s);
@@ -39,11 +38,15 @@ void Ecrit_ADIF(Poste &poste, const Liste_Diplome &liste, Etat_Liste &etat, Pred
 
 } // namespace
 
-QString Entete_ADIF(const Etat_Commun &etat, QStringView code)
+QString Entete_ADIF(const Etat_Commun &etat, Diplome diplome)
 {
     const std::array<QString, 6> lignes = {
-        u"Vorlain_" + code, QString(), u"Exportation du log de la station "_s + etat.indicatif + u" au format ADIF",
-        QString(),          QString(), u"<eoh>"_s,
+        u"Vorlain_" + Code(diplome),
+        QString(),
+        u"Exportation du log de la station "_s + etat.station.indicatif + u" au format ADIF",
+        QString(),
+        QString(),
+        u"<eoh>"_s,
     };
     QString entete;
     for (const QString &ligne : lignes)

@@ -5,7 +5,7 @@
 struct Poste;
 
 /// The lines of an award's ADIF file down to its "<eoh>", each with its line end.
-QString Entete_ADIF(const Etat_Commun &etat, QStringView code);
+QString Entete_ADIF(const Etat_Commun &etat, Diplome diplome);
 
 // The button ADIF of a list. The heading loses its "/", on the screen as well, and names the file in Repertoire_Appli;
 // the log is read again, and the rows play no part. The name is told at the end. Throws Erreur_Execution for an absent

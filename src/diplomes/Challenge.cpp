@@ -1,7 +1,6 @@
 #include "diplomes/Challenge.h"
 
 #include "listes/Index_Liste.h"
-#include "log/Chemin_Log.h"
 #include "log/Etat_Commun.h"
 #include "log/Ligne_Log.h"
 #include "log/Poste.h"
@@ -69,7 +68,7 @@ Etat_Challenge Charge_Challenge(const Poste &poste)
     const Etat_Commun &etat = poste.etat;
     Index_Liste ouvrages(ouvrage_du_canal, poste.dossier);
     const QString canal = QString::number(etat.numero_canal);
-    const Lignes_Texte lignes = poste.dossier.Lit_Lignes(Chemin_Log(etat, u"DOHF"));
+    const Lignes_Texte lignes = poste.dossier.Lit_Lignes(etat.station.Log(Diplome::DOHF));
     std::vector<QString> rangs;
     for (const QStringView ligne : lignes)
         if (ouvrages.Cherche(Cle(Lit_Rogne(ligne, col::Ref).toString(), canal)).trouvee)

@@ -2,7 +2,6 @@
 
 #include "diplomes/regles/Compte.h"
 #include "diplomes/regles/Evalue_Fiche.h"
-#include "log/Chemin_Log.h"
 #include "log/Etat_Commun.h"
 #include "log/Poste.h"
 #include "plateforme/Dossier.h"
@@ -10,7 +9,7 @@
 
 Etat_Fiche Charge_Par_Niveaux(const Poste &poste, const Fiche_Diplome &fiche)
 {
-    const Lignes_Texte lignes = poste.dossier.Lit_Lignes(Chemin_Log(poste.etat, fiche.code));
+    const Lignes_Texte lignes = poste.dossier.Lit_Lignes(poste.etat.station.Log(fiche.diplome));
     return Evalue_Fiche(fiche, Compte(fiche.regles, lignes, poste.etat), poste.etat);
 }
 

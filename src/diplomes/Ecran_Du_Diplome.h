@@ -1,7 +1,9 @@
 #pragma once
 
+#include "log/Diplome.h"
+
 #include <QString>
 
-/// The screen that Mnu_Diplomes opens for the text of Dip_A: the sheet of the award, or its choice screen. Empty for a
-/// text that is no code.
-QString Ecran_Du_Diplome(QStringView code);
+/// The screen that Mnu_Diplomes opens for the award in Dip_A: its sheet, or its choice screen. Empty without an
+/// award.
+QString Ecran_Du_Diplome(std::optional<Diplome> diplome);

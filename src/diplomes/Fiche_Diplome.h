@@ -2,6 +2,7 @@
 
 #include "diplomes/Choix.h"
 #include "diplomes/Etat_Fiche.h"
+#include "log/Diplome.h"
 
 #include <QStringView>
 
@@ -70,7 +71,7 @@ Etat_Fiche Charge_Par_Niveaux(const Poste &poste, const Fiche_Diplome &fiche);
 /// The sheet of an award as data. What an award does in its own way is a function in one of the last four places.
 struct Fiche_Diplome {
     QStringView ecran;
-    QStringView code;   ///< of the log
+    Diplome diplome;    ///< of the log
     QStringView titre;  ///< of the window
     QStringView entete; ///< the heading; both may name the shared texts
     QStringView liste;  ///< the screen that a tier's button shows

@@ -8,7 +8,7 @@
 using namespace Qt::StringLiterals;
 
 Valeurs::Valeurs(const Etat_Commun &etat)
-    : valeurs_{{u"Indicatif", etat.indicatif},
+    : valeurs_{{u"Indicatif", etat.station.indicatif},
                {u"Bande_Liste", etat.bande_liste},
                {u"Mode_Liste", etat.mode_liste},
                {u"Code_Categorie", etat.code_categorie},

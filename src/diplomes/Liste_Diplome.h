@@ -79,7 +79,7 @@ struct Bouton_De_Liste {
 /// names {c}.
 struct Liste_Diplome {
     QStringView ecran;
-    QStringView code;  ///< of the log
+    Diplome diplome;   ///< of the log
     QStringView nom;   ///< of the list box
     QStringView titre; ///< of the window, where no other is chosen
     QStringView entete;

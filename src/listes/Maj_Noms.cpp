@@ -3,7 +3,6 @@
 #include "listes/Index_Liste.h"
 #include "listes/Table_Recherches.h"
 #include "log/Charge_Log.h"
-#include "log/Chemin_Log.h"
 #include "log/Ecran_Principal.h"
 #include "log/Etat_Commun.h"
 #include "log/Poste.h"
@@ -84,11 +83,11 @@ void Renomme_PC(Champs_QSO &champs, QStringView ref, Index_Liste &liste)
 
 // clang-format off
 constexpr std::array<Maj_Nom, 5> majs = {{
-    {u"Mnu_MAJ_Nom_DOHF", u"DOHF", &recherches::Nom_Ouvrage, Renomme_DOHF, u"", u"Selectionnez le diplome DOHF", u"Mise à jour du nom des ouvrages términée"},
-    {u"Mnu_MAJ_Nom_DFCF", u"DFCF", &recherches::Nom_DFCF, Renomme_DFCF, avertissement_dfcf, u"Selectionnez le diplome DFCF", u"Mise à jour du nom des Chateaux términée"},
-    {u"Mnu_MAJ_Nom_DPLF", u"DPLF", &recherches::Nom_DPLF, Renomme_DPLF, u"", u"Selectionnez le diplome DPLF", u"Mise à jour du nom des ouvrages términée"},
-    {u"Mnu_MAJ_Nom_FFF", u"FFF", &recherches::Nom_FFF, Renomme_FFF, u"", u"Selectionnez le diplome FFF", u"Mise à jour du nom des sites términée"},
-    {u"Mnu_MAJ_Nom_PC", u"PC", &recherches::Cherche_PC, Renomme_PC, u"", u"Selectionnez le diplome PC", u"Mise à jour du nom des ouvrages términée"},
+    {u"Mnu_MAJ_Nom_DOHF", Diplome::DOHF, &recherches::Nom_Ouvrage, Renomme_DOHF, u"", u"Selectionnez le diplome DOHF", u"Mise à jour du nom des ouvrages términée"},
+    {u"Mnu_MAJ_Nom_DFCF", Diplome::DFCF, &recherches::Nom_DFCF, Renomme_DFCF, avertissement_dfcf, u"Selectionnez le diplome DFCF", u"Mise à jour du nom des Chateaux términée"},
+    {u"Mnu_MAJ_Nom_DPLF", Diplome::DPLF, &recherches::Nom_DPLF, Renomme_DPLF, u"", u"Selectionnez le diplome DPLF", u"Mise à jour du nom des ouvrages términée"},
+    {u"Mnu_MAJ_Nom_FFF", Diplome::FFF, &recherches::Nom_FFF, Renomme_FFF, u"", u"Selectionnez le diplome FFF", u"Mise à jour du nom des sites términée"},
+    {u"Mnu_MAJ_Nom_PC", Diplome::PC, &recherches::Cherche_PC, Renomme_PC, u"", u"Selectionnez le diplome PC", u"Mise à jour du nom des ouvrages términée"},
 }};
 // clang-format on
 
@@ -116,14 +115,14 @@ void Maj_Noms(Poste &poste, const Maj_Nom &maj)
 {
     if (!maj.avertissement.isEmpty())
         poste.boites.Message(maj.avertissement.toString());
-    if (poste.etat.diplome != maj.code) {
+    if (poste.etat.station.diplome != maj.diplome) {
         poste.boites.Message(maj.refus.toString());
         return;
     }
-    const QString nom = Chemin_Log(poste.etat, maj.code);
+    const QString nom = poste.etat.station.Log(maj.diplome);
     Index_Liste liste(*maj.recherche, poste.dossier);
     poste.dossier.Remplace(nom, Texte_Renomme(poste.dossier.Lit_Lignes(nom), maj, liste), u"Temporaire1.log"_s);
-    Charge_Log(poste, maj.code);
+    Charge_Log(poste, maj.diplome);
     poste.ecran.Selectionne_Derniere();
     poste.boites.Message(maj.cloture.toString());
 }

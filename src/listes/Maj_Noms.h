@@ -1,5 +1,6 @@
 #pragma once
 
+#include "log/Diplome.h"
 #include "log/Ligne_Log.h"
 #include "plateforme/Lignes_Texte.h"
 
@@ -12,7 +13,7 @@ struct Recherche;
 /// One entry of the menu that writes the names of a log anew from its list.
 struct Maj_Nom {
     QStringView menu;
-    QStringView code; ///< the award it is offered for
+    Diplome diplome; ///< the award it is offered for
     const Recherche *recherche;
     /// The new Nom (for some awards also Dpt) of a QSO; it gets `Ref` trimmed.
     void (*renomme)(Champs_QSO &champs, QStringView ref, Index_Liste &liste);

@@ -45,14 +45,14 @@ std::vector<QString> Entrees(const Dossier &dossier, const Lecture &lecture, QSt
 
 } // namespace
 
-Vue_References Lit_References(const Dossier &dossier, QStringView diplome)
+Vue_References Lit_References(const Dossier &dossier, std::optional<Diplome> diplome)
 {
     // clang-format off
-    if (diplome == u"DCF")
+    if (diplome == Diplome::DCF)
         return {.titre = u"Liste des réferences DCF"_s,
                 .entete = u"         Ref                      Nom de la Cathedrale "_s,
                 .entrees = Entrees(dossier, recherches::Cherche_DCF.lecture, Entree_DCF)};
-    if (diplome == u"DPLF")
+    if (diplome == Diplome::DPLF)
         return {.titre = u"Liste des réferences DPLF"_s,
                 .entete = u"     Ref         Dpt                             Nom du Phare                            "_s,
                 .entrees = Entrees(dossier, recherches::Cherche_DPLF.lecture, Entree_DPLF)};

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "log/Diplome.h"
+
 #include <QString>
 
 #include <vector>
@@ -15,4 +17,4 @@ struct Vue_References {
 
 /// The references of Liste_DCF.csv for DCF and of Liste_DPLF.txt for DPLF; nothing for any other award. Throws
 /// Erreur_Execution for an absent list and for a line with too few separators.
-Vue_References Lit_References(const Dossier &dossier, QStringView diplome);
+Vue_References Lit_References(const Dossier &dossier, std::optional<Diplome> diplome);

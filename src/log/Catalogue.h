@@ -1,16 +1,15 @@
 #pragma once
 
+#include "log/Diplome.h"
+
 #include <QString>
 #include <QStringView>
 
 #include <array>
 #include <optional>
 
-/// The entries of Dip_A; `Diplome Utilise` is an index into them.
-inline constexpr std::array<QStringView, 21> codes_diplome = {
-    u"Ch_DFCF", u"Ch_DMF", u"DAF", u"DCF",  u"DCPF", u"DDFM", u"DFCF", u"DFF", u"DIFI", u"DIFM", u"DLF",
-    u"DMF",     u"DOHF",   u"DPF", u"DPLF", u"DVFF", u"DYLF", u"FFF",  u"PC",  u"TDC",  u"WLF",
-};
+/// The entries of Dip_A: the codes in the order of Diplome.
+extern const std::array<QStringView, nombre_diplomes> codes_diplome;
 
 /// The entries of Bande_A.
 inline constexpr std::array<QStringView, 12> bandes = {
@@ -23,7 +22,6 @@ inline constexpr std::array<QStringView, 5> modes = {u"SSB", u"CW", u"PSK", u"TT
 
 /// How the entry screen is dressed for an award. nullopt leaves a text as the award before it left it.
 struct Habillage {
-    QStringView code;
     QStringView frame3; ///< for the challenges without the year, which goes behind it
     QStringView detail;
     std::optional<QStringView> detail_1;
@@ -32,14 +30,14 @@ struct Habillage {
     QStringView type_ref;
 };
 
-/// The dressing of a code; nullptr for a text that is none of the 21.
-const Habillage *Habillage_De(QStringView code);
+const Habillage &Habillage_De(Diplome diplome);
 
-/// The word before the reference; a text that is no code stands for itself.
-QStringView Type_Ref(QStringView code);
+/// The word before the reference; none without an award.
+QStringView Type_Ref(std::optional<Diplome> diplome);
 
-bool Est_Code_Diplome(QStringView texte);
 /// The code that a text spells in whatever case, in its own form; a text that spells none comes back as it is.
 QString En_Forme_De_Code(const QString &texte);
 /// The two challenges, whose log bears a year.
-bool Est_Challenge(QStringView code);
+bool Est_Challenge(std::optional<Diplome> diplome);
+/// The award whose sites a challenge takes up: DFCF of Ch_DFCF, DMF of Ch_DMF; any other stands for itself.
+Diplome Source_Challenge(Diplome challenge);

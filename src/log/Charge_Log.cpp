@@ -1,7 +1,6 @@
 #include "log/Charge_Log.h"
 
 #include "log/Ancienne_Ref_TDC.h"
-#include "log/Chemin_Log.h"
 #include "log/Ecran_Principal.h"
 #include "log/Etat_Commun.h"
 #include "log/Migrations.h"
@@ -11,19 +10,19 @@
 
 using namespace Qt::StringLiterals;
 
-void Charge_Log(Poste &poste, QStringView code)
+void Charge_Log(Poste &poste, std::optional<Diplome> diplome)
 {
     poste.ecran.Remplit_Liste({});
-    const QString nom = Chemin_Log(poste.etat, code);
+    const QString nom = poste.etat.station.Log(diplome);
     Lignes_Texte lignes = poste.dossier.Lit_Lignes(nom);
     const auto conversion = [&](QStringView ancienne) { return Ancienne_Ref_TDC(poste.dossier, ancienne); };
-    const std::optional<Log_Migre> migre = Migre(code, lignes, conversion);
+    const std::optional<Log_Migre> migre = Migre(diplome, lignes, conversion);
     const bool a_reecrire = migre && migre->a_reecrire;
     // Shown before it is written: a disk that refuses leaves the log on screen at start.
     poste.ecran.Remplit_Liste(migre ? Lignes_Texte(migre->texte) : std::move(lignes));
     if (a_reecrire)
         poste.dossier.Remplace(nom, migre->texte, u"Temporaire.txt"_s);
-    if (a_reecrire && code == u"FFF")
+    if (a_reecrire && diplome == Diplome::FFF)
         poste.boites.Message(u"Mettez à jour la liste FFF (Outils puis Mise à jour des références FFF)"_s);
     poste.ecran.Active_Ind_A();
 }

@@ -1,19 +1,9 @@
 #include "log/Chemin_Log.h"
 
-#include "log/Etat_Commun.h"
-
-using namespace Qt::StringLiterals;
-
-QString Chemin_Log(const Etat_Commun &etat, QStringView code)
+QString Chemin_Log(QStringView indicatif, std::optional<Diplome> diplome, std::optional<QStringView> annee)
 {
-    if (code == u"Ch_DFCF")
-        return etat.indicatif + u"_Ch_DFCF_" + etat.annee_ch_dfcf + u".log";
-    if (code == u"Ch_DMF")
-        return etat.indicatif + u"_Ch_DMF_" + etat.annee_ch_dmf + u".log";
-    return Chemin_Log_Sans_Annee(etat.indicatif, code);
-}
-
-QString Chemin_Log_Sans_Annee(QStringView indicatif, QStringView code)
-{
-    return indicatif + u'_' + code + u".log";
+    QString nom = indicatif + u'_' + Code(diplome);
+    if (annee)
+        nom += u'_' + *annee;
+    return nom + u".log";
 }

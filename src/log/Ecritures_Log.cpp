@@ -1,7 +1,6 @@
 #include "log/Ecritures_Log.h"
 
 #include "log/Charge_Log.h"
-#include "log/Chemin_Log.h"
 #include "log/Ecran_Principal.h"
 #include "log/Etat_Commun.h"
 #include "log/Ligne_Log.h"
@@ -51,9 +50,9 @@ std::size_t Place_Dans_Le_Temps(const Lignes_Texte &lignes, const std::optional<
     return static_cast<std::size_t>(place - lignes.begin());
 }
 
-void Recharge(Poste &poste, QStringView code)
+void Recharge(Poste &poste, std::optional<Diplome> diplome)
 {
-    Charge_Log(poste, code);
+    Charge_Log(poste, diplome);
     poste.ecran.Selectionne_Derniere();
 }
 
@@ -79,35 +78,35 @@ QString Texte_Insere(const Lignes_Texte &lignes, QStringView nouvelle)
     return Assemble(lignes, Place_Dans_Le_Temps(lignes, Moment(nouvelle)), nouvelle, false);
 }
 
-void Ajoute_Ligne(Poste &poste, QStringView ligne, QStringView code)
+void Ajoute_Ligne(Poste &poste, QStringView ligne, Diplome diplome)
 {
-    poste.dossier.Ajoute(Chemin_Log(poste.etat, code), ligne);
-    Recharge(poste, code);
+    poste.dossier.Ajoute(poste.etat.station.Log(diplome), ligne);
+    Recharge(poste, diplome);
 }
 
 void Remplace_Ligne(Poste &poste, QStringView nouvelle, QStringView ancienne)
 {
-    const QString nom = Chemin_Log(poste.etat, poste.etat.diplome);
+    const QString nom = poste.etat.station.Log_Courant();
     const Lignes_Texte lignes = poste.dossier.Lit_Lignes(nom);
     poste.dossier.Remplace(nom, Texte_Remplace(lignes, nouvelle, ancienne), u"Temporaire.txt"_s);
-    Recharge(poste, poste.etat.diplome);
+    Recharge(poste, poste.etat.station.diplome);
     if (!Est_Dans_Le_Log(lignes, ancienne))
         poste.boites.Message(u"L'ancien QSO n'est plus dans le log, le QSO modifié a été ajouté à la fin"_s);
 }
 
-void Supprime_Ligne(Poste &poste, QStringView ligne, QStringView code)
+void Supprime_Ligne(Poste &poste, QStringView ligne, Diplome diplome)
 {
-    const QString nom = Chemin_Log(poste.etat, code);
+    const QString nom = poste.etat.station.Log(diplome);
     const Lignes_Texte lignes = poste.dossier.Lit_Lignes(nom);
     poste.dossier.Remplace(nom, Texte_Supprime(lignes, ligne), u"Temporaire.txt"_s);
-    Recharge(poste, code);
+    Recharge(poste, diplome);
     if (!Est_Dans_Le_Log(lignes, ligne))
         poste.boites.Message(u"Ce QSO n'est plus dans le log, rien n'a été supprimé"_s);
 }
 
 void Insere_Ligne(Poste &poste, QStringView ligne)
 {
-    const QString nom = Chemin_Log(poste.etat, poste.etat.diplome);
+    const QString nom = poste.etat.station.Log_Courant();
     poste.dossier.Remplace(nom, Texte_Insere(poste.dossier.Lit_Lignes(nom), ligne), u"Temporaire6.txt"_s);
-    Recharge(poste, poste.etat.diplome);
+    Recharge(poste, poste.etat.station.diplome);
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "log/Diplome.h"
 #include "plateforme/Lignes_Texte.h"
 
 #include <QString>
@@ -22,11 +23,11 @@ QString Texte_Insere(const Lignes_Texte &lignes, QStringView nouvelle);
 // The operations. A line is a whole Ligne_Log. Each ends by reloading Liste_QSO and selecting its last entry, and
 // throws Erreur_Execution with the log as it was if the disk refuses.
 
-/// Appends to the log of `code`.
-void Ajoute_Ligne(Poste &poste, QStringView ligne, QStringView code);
+/// Appends to the log of `diplome`.
+void Ajoute_Ligne(Poste &poste, QStringView ligne, Diplome diplome);
 /// In the log of the current award: a QSO whose old line is gone is stored all the same, and the operator is told.
 void Remplace_Ligne(Poste &poste, QStringView nouvelle, QStringView ancienne);
-/// Removes from the log of `code`; the operator is told of a line that is gone.
-void Supprime_Ligne(Poste &poste, QStringView ligne, QStringView code);
+/// Removes from the log of `diplome`; the operator is told of a line that is gone.
+void Supprime_Ligne(Poste &poste, QStringView ligne, Diplome diplome);
 /// In the log of the current award, which is taken to be in order of time.
 void Insere_Ligne(Poste &poste, QStringView ligne);

@@ -1,23 +1,16 @@
 #pragma once
 
+#include "log/Station_Courante.h"
+
 #include <QString>
 
 #include <cstdint>
 
-/// The mark of a first installation, and the year of a challenge that was not chosen yet.
-inline constexpr QStringView indicatif_absent = u"FXXXX";
-inline constexpr QStringView annee_absente = u"2000";
-
 /// What the screens share in memory; everything else is in the files.
 struct Etat_Commun {
-    /// Current call sign in its stored form, `_` for `/`.
-    QString indicatif = indicatif_absent.toString();
-    /// Current award: the code last opened with Enter in Dip_A, not the text that Dip_A shows.
-    QString diplome;
-    QString annee_ch_dfcf = annee_absente.toString();
-    QString annee_ch_dmf = annee_absente.toString();
-    /// "DFCF" or "DMF": the challenge whose year Select_Annee asks for.
-    QString genre_challenge;
+    Station_Courante station;
+    /// Ch_DFCF or Ch_DMF: the challenge whose year Select_Annee asks for; none before the first.
+    std::optional<Diplome> challenge;
     /// Where the last ADIF file of this run was chosen; empty before the first.
     QString dossier_adif;
     QString version;

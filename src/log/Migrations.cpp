@@ -77,15 +77,15 @@ std::optional<QString> Ref_FFF(QStringView, QStringView ref)
     return texte.toString().rightJustified(4, u'0');
 }
 
-Regle Regle_Migration(QStringView code, const Conversion_TDC &conversion)
+Regle Regle_Migration(std::optional<Diplome> diplome, const Conversion_TDC &conversion)
 {
-    if (code == u"DOHF")
+    if (diplome == Diplome::DOHF)
         return Ref_DOHF;
-    if (code == u"TDC")
+    if (diplome == Diplome::TDC)
         return Regle_TDC(conversion);
-    if (code == u"DCPF")
+    if (diplome == Diplome::DCPF)
         return Ref_DCPF;
-    if (code == u"FFF")
+    if (diplome == Diplome::FFF)
         return Ref_FFF;
     return {};
 }
@@ -121,9 +121,10 @@ QString Recomposees(const Lignes_Texte &lignes, const std::vector<Ref_Changee> &
 
 } // namespace
 
-std::optional<Log_Migre> Migre(QStringView code, const Lignes_Texte &lignes, const Conversion_TDC &conversion)
+std::optional<Log_Migre> Migre(std::optional<Diplome> diplome, const Lignes_Texte &lignes,
+                               const Conversion_TDC &conversion)
 {
-    const Regle regle = Regle_Migration(code, conversion);
+    const Regle regle = Regle_Migration(diplome, conversion);
     if (!regle)
         return std::nullopt;
     const std::vector<Ref_Changee> changees = Refs_Changees(lignes, regle);

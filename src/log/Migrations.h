@@ -1,5 +1,6 @@
 #pragma once
 
+#include "log/Diplome.h"
 #include "plateforme/Lignes_Texte.h"
 
 #include <QString>
@@ -17,5 +18,6 @@ struct Log_Migre {
     bool a_reecrire = false;
 };
 
-/// nullopt if every reference of a log of `code` has its present form.
-std::optional<Log_Migre> Migre(QStringView code, const Lignes_Texte &lignes, const Conversion_TDC &conversion);
+/// nullopt if every reference of a log of an award has its present form.
+std::optional<Log_Migre> Migre(std::optional<Diplome> diplome, const Lignes_Texte &lignes,
+                               const Conversion_TDC &conversion);

@@ -1,6 +1,5 @@
 #include "log/Recherches_Log.h"
 
-#include "log/Chemin_Log.h"
 #include "log/Etat_Commun.h"
 #include "log/Ligne_Log.h"
 #include "log/Poste.h"
@@ -36,13 +35,12 @@ Trouvaille Cherche_Dpt_Bande_Mode_Dans(const Lignes_Texte &lignes, QStringView d
     });
 }
 
-Trouvaille Cherche_Ref(const Poste &poste, QStringView code, QStringView ref)
+Trouvaille Cherche_Ref(const Poste &poste, std::optional<Diplome> diplome, QStringView ref)
 {
-    return Cherche_Ref_Dans(poste.dossier.Lit_Lignes(Chemin_Log(poste.etat, code)), ref);
+    return Cherche_Ref_Dans(poste.dossier.Lit_Lignes(poste.etat.station.Log(diplome)), ref);
 }
 
 Trouvaille Cherche_Dpt_Bande_Mode(const Poste &poste, QStringView dpt, QStringView bande, QStringView mode)
 {
-    return Cherche_Dpt_Bande_Mode_Dans(poste.dossier.Lit_Lignes(Chemin_Log(poste.etat, poste.etat.diplome)), dpt, bande,
-                                       mode);
+    return Cherche_Dpt_Bande_Mode_Dans(poste.dossier.Lit_Lignes(poste.etat.station.Log_Courant()), dpt, bande, mode);
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "log/Diplome.h"
 #include "plateforme/Lignes_Texte.h"
 
 #include <QString>
@@ -17,6 +18,6 @@ Trouvaille Cherche_Ref_Dans(const Lignes_Texte &lignes, QStringView ref);
 Trouvaille Cherche_Dpt_Bande_Mode_Dans(const Lignes_Texte &lignes, QStringView dpt, QStringView bande,
                                        QStringView mode);
 
-/// The same over the log of `code`, and over the log of the current award, as they are on the disk.
-Trouvaille Cherche_Ref(const Poste &poste, QStringView code, QStringView ref);
+/// The same over the log of an award, and over the log of the current award, as they are on the disk.
+Trouvaille Cherche_Ref(const Poste &poste, std::optional<Diplome> diplome, QStringView ref);
 Trouvaille Cherche_Dpt_Bande_Mode(const Poste &poste, QStringView dpt, QStringView bande, QStringView mode);

@@ -1,5 +1,6 @@
 #include "outils/Choisit_Annee.h"
 
+#include "log/Catalogue.h"
 #include "log/Charge_Log.h"
 #include "log/Chemin_Log.h"
 #include "log/Cles.h"
@@ -15,14 +16,14 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-bool Est_DMF(const Etat_Commun &etat)
+Diplome Challenge(const Poste &poste)
 {
-    return etat.genre_challenge == u"DMF";
+    return poste.etat.challenge.value_or(Diplome::Ch_DFCF);
 }
 
-QStringView Cle_Annee(const Etat_Commun &etat)
+QStringView Cle_Annee(Diplome challenge)
 {
-    return Est_DMF(etat) ? cles::annee_challenge_dmf : cles::annee_challenge_dfcf;
+    return challenge == Diplome::Ch_DMF ? cles::annee_challenge_dmf : cles::annee_challenge_dfcf;
 }
 
 bool Reste_Dans_Le_Dossier(const QString &annee)
@@ -33,17 +34,22 @@ bool Reste_Dans_Le_Dossier(const QString &annee)
 /// True if the log of the year is there or could be made.
 bool Ouvre_Le_Log(Poste &poste, const QString &annee)
 {
-    Etat_Commun essai = poste.etat;
-    (Est_DMF(essai) ? essai.annee_ch_dmf : essai.annee_ch_dfcf) = annee;
-    const QString nom = Chemin_Log(essai, Est_DMF(essai) ? u"Ch_DMF" : u"Ch_DFCF");
+    const Station_Courante &station = poste.etat.station;
+    const QString nom = Chemin_Log(station.indicatif, Challenge(poste), annee);
     return poste.dossier.S_Ouvre(nom) || Tolere([&] { poste.dossier.Cree_Si_Absent(nom); });
 }
 
 } // namespace
 
+QStringView Genre_Challenge(const Poste &poste)
+{
+    const std::optional<Diplome> challenge = poste.etat.challenge;
+    return challenge ? Code(Source_Challenge(*challenge)) : QStringView();
+}
+
 QString Annee_Challenge(const Poste &poste)
 {
-    return Lit_Station(poste, Cle_Annee(poste.etat), annee_absente);
+    return Lit_Station(poste, Cle_Annee(Challenge(poste)), annee_absente);
 }
 
 bool Choisit_Annee(Poste &poste, const QString &annee)
@@ -52,9 +58,9 @@ bool Choisit_Annee(Poste &poste, const QString &annee)
         poste.boites.Message(u"Année incorrecte"_s);
         return false;
     }
-    (Est_DMF(poste.etat) ? poste.etat.annee_ch_dmf : poste.etat.annee_ch_dfcf) = annee;
-    Tolere([&] { Ecrit_Station(poste, Cle_Annee(poste.etat), annee); });
-    Tolere([&] { Charge_Log(poste, poste.etat.diplome); });
+    poste.etat.station.Annee_Challenge(Challenge(poste)) = annee;
+    Tolere([&] { Ecrit_Station(poste, Cle_Annee(Challenge(poste)), annee); });
+    Tolere([&] { Charge_Log(poste, poste.etat.station.diplome); });
     poste.ecrans.Suit_Le_Log();
     return true;
 }

@@ -1,6 +1,5 @@
 #include "outils/Collecte_DDFM.h"
 
-#include "log/Catalogue.h"
 #include "log/Charge_Log.h"
 #include "log/Chemin_Log.h"
 #include "log/Ecran_Principal.h"
@@ -75,14 +74,14 @@ std::vector<QString> Lignes_DDFM(std::span<const Lignes_Texte> logs)
 
 void Collecte_DDFM(Poste &poste)
 {
-    const QString &indicatif = poste.etat.indicatif;
+    const QString &indicatif = poste.etat.station.indicatif;
     std::vector<Lignes_Texte> logs;
-    for (const QStringView code : codes_diplome)
-        logs.push_back(poste.dossier.Lit_Lignes(Chemin_Log_Sans_Annee(indicatif, code)));
+    for (const Diplome diplome : tous_les_diplomes)
+        logs.push_back(poste.dossier.Lit_Lignes(Chemin_Log(indicatif, diplome)));
     QString texte;
     for (const QString &ligne : Lignes_DDFM(logs))
         texte.append(ligne).append(fin_de_ligne);
-    poste.dossier.Remplace(Chemin_Log_Sans_Annee(indicatif, u"DDFM"), texte, u"Temporaire.txt"_s);
-    Charge_Log(poste, poste.etat.diplome);
+    poste.dossier.Remplace(Chemin_Log(indicatif, Diplome::DDFM), texte, u"Temporaire.txt"_s);
+    Charge_Log(poste, poste.etat.station.diplome);
     poste.ecran.Selectionne_Derniere();
 }

@@ -14,7 +14,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-QString Entete(const QString &station, const QString &code)
+QString Entete(const QString &station, QStringView code)
 {
     const std::array<QString, 6> lignes = {
         u"Exportation du log de la station "_s + station + u' ' + code + u" au format ADIF",
@@ -34,8 +34,8 @@ QString Entete(const QString &station, const QString &code)
 
 void Export_ADIF(Poste &poste)
 {
-    const QString &code = poste.etat.diplome;
-    const QString nom = poste.etat.indicatif + u'_' + code + u".adi";
+    const QStringView code = Code(poste.etat.station.diplome);
+    const QString nom = poste.etat.station.indicatif + u'_' + code + u".adi";
     QString texte = Entete(poste.ecran.I_Station(), code);
     const Lignes_Texte lignes = poste.dossier.Lit_Lignes(Nom_Log_ADIF(poste.etat) + u".log");
     for (const QStringView ligne : lignes)

@@ -35,17 +35,17 @@ std::vector<QString> Activations(const Lignes_Texte &source, const Lignes_Texte 
     return lignes;
 }
 
-void Fusion_Activite(Poste &poste, QStringView code)
+void Fusion_Activite(Poste &poste, Diplome de)
 {
-    if (poste.ecran.Dip_A() != poste.etat.diplome) {
+    if (Diplome_De(poste.ecran.Dip_A()) != poste.etat.station.diplome) {
         poste.boites.Message(u"Selectionnez un diplome"_s);
         poste.ecran.Va_A_Dip_A();
         return;
     }
     poste.boites.Message(u"Attention toutes les références importées sont uniquement des Activations 'A'\n"
                          u"N'oubliez pas d'enregistrer toutes les réactivations 'R'"_s);
-    const QString challenge = u"Ch_" + code;
-    const QString nom = Chemin_Log(poste.etat, poste.etat.diplome);
-    const Lignes_Texte source = poste.dossier.Lit_Lignes(Chemin_Log_Sans_Annee(poste.etat.indicatif, code));
+    const Diplome challenge = de == Diplome::DMF ? Diplome::Ch_DMF : Diplome::Ch_DFCF;
+    const QString nom = poste.etat.station.Log_Courant();
+    const Lignes_Texte source = poste.dossier.Lit_Lignes(Chemin_Log(poste.etat.station.indicatif, de));
     Acheve_Fusion(poste, nom, Activations(source, poste.dossier.Lit_Lignes(nom), Annee_Courte(poste, challenge)));
 }

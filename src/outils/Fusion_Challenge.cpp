@@ -13,15 +13,6 @@
 
 using namespace Qt::StringLiterals;
 
-namespace {
-
-const QString &Annee(const Poste &poste, QStringView challenge)
-{
-    return challenge == u"Ch_DMF" ? poste.etat.annee_ch_dmf : poste.etat.annee_ch_dfcf;
-}
-
-} // namespace
-
 Lignes_Par_Site::Lignes_Par_Site(const Lignes_Texte &lignes)
 {
     for (const QStringView ligne : lignes) {
@@ -39,9 +30,9 @@ std::optional<QStringView> Lignes_Par_Site::Pour(QStringView site) const
     return *place;
 }
 
-QStringView Annee_Courte(const Poste &poste, QStringView challenge)
+QStringView Annee_Courte(const Poste &poste, Diplome challenge)
 {
-    const QStringView annee = Annee(poste, challenge);
+    const QStringView annee = *poste.etat.station.Annee(challenge);
     return annee.last(qMin(qsizetype{2}, annee.size()));
 }
 
@@ -57,7 +48,7 @@ QString Texte_En_Ordre(std::vector<QString> lignes)
 void Acheve_Fusion(Poste &poste, const QString &nom, std::vector<QString> lignes)
 {
     poste.dossier.Remplace(nom, Texte_En_Ordre(std::move(lignes)), u"Temporaire.txt"_s);
-    Charge_Log(poste, poste.etat.diplome);
+    Charge_Log(poste, poste.etat.station.diplome);
     Supprime_Doubles(poste);
     Trie_Log(poste);
     poste.ecran.Efface_Saisie();

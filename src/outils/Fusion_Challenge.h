@@ -1,6 +1,7 @@
 #pragma once
 
 #include "log/Champ.h"
+#include "log/Diplome.h"
 #include "plateforme/Lignes_Texte.h"
 
 #include <QHash>
@@ -25,8 +26,8 @@ private:
     QHash<QStringView, QStringView> lignes_;
 };
 
-/// The last two digits of the year of a challenge: Ch_DMF, or Ch_DFCF for any other code.
-QStringView Annee_Courte(const Poste &poste, QStringView challenge);
+/// The last two digits of the year of a challenge.
+QStringView Annee_Courte(const Poste &poste, Diplome challenge);
 
 /// Lines as the sorted work list keeps them, each with its CR LF.
 QString Texte_En_Ordre(std::vector<QString> lignes);

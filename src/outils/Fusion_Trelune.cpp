@@ -39,12 +39,12 @@ constexpr Champ Nom{169, 30};
 
 namespace trelune = colonnes_trelune;
 
-bool Est_DMF(QStringView challenge)
+bool Est_DMF(Diplome challenge)
 {
-    return challenge == u"Ch_DMF";
+    return challenge == Diplome::Ch_DMF;
 }
 
-bool Compte(QStringView qso, QStringView challenge, QStringView annee)
+bool Compte(QStringView qso, Diplome challenge, QStringView annee)
 {
     const int genre = Est_DMF(challenge) ? 2 : 1;
     return Lit(qso, trelune::Annee) == annee && Entier_De_Tete(Lit(qso, trelune::Genre)) == genre;
@@ -69,14 +69,14 @@ QString Ligne_Du_Log(QStringView qso, QStringView site, const QString &nom)
 }
 
 /// An old line stays, but for one of Ch_DFCF that has no name: asymmetric on purpose.
-bool Reste(const std::optional<QStringView> &ancienne, QStringView challenge)
+bool Reste(const std::optional<QStringView> &ancienne, Diplome challenge)
 {
     return ancienne && (Est_DMF(challenge) || !Lit_Rogne(*ancienne, colonnes_log::Nom).isEmpty());
 }
 
 } // namespace
 
-std::vector<QString> Activations_Trelune(QStringView challenge, const Lignes_Texte &trelune_log,
+std::vector<QString> Activations_Trelune(Diplome challenge, const Lignes_Texte &trelune_log,
                                          const Lignes_Texte &anciennes, QStringView annee, const Nom_De_Site &nom)
 {
     const Lignes_Par_Site par_site(anciennes);
@@ -100,11 +100,11 @@ void Fusion_Trelune(Poste &poste)
         u"Attention toutes les références importées de Vorlain_Trelune sont marquées 'A' même si ce sont des réactivations\n"
         u"Dans le cas d'une réactivation pensez à renommer la référence en remplacant la lettre 'A' par la lettre 'R' "_s);
     // clang-format on
-    const QString &challenge = poste.etat.diplome;
+    const Diplome challenge = *poste.etat.station.diplome;
     const QString dossier =
         poste.reglages.Lit_Trelune(u"Setup"_s, cles::chemin_repertoire.toString(), u"C:\\Vorlain_Trelune"_s);
-    const Lignes_Texte qsos = poste.dossier.Lit_Lignes(dossier + u'/' + poste.etat.indicatif + u".log");
-    const QString nom = Chemin_Log(poste.etat, challenge);
+    const Lignes_Texte qsos = poste.dossier.Lit_Lignes(dossier + u'/' + poste.etat.station.indicatif + u".log");
+    const QString nom = poste.etat.station.Log(challenge);
     const Lignes_Texte anciennes = poste.dossier.Lit_Lignes(nom);
     Index_Liste chateaux(recherches::Cherche_DFCF, poste.dossier);
     const auto nom_du_chateau = [&](QStringView site) { return *chateaux.Cherche(site).sorties.nom; };

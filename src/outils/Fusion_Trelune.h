@@ -1,5 +1,6 @@
 #pragma once
 
+#include "log/Diplome.h"
 #include "plateforme/Lignes_Texte.h"
 
 #include <QString>
@@ -15,8 +16,8 @@ using Nom_De_Site = std::function<QString(QStringView site)>;
 /// The lines of `challenge`, Ch_DFCF or Ch_DMF, from the log of the sibling program: each of its QSOs of the year (two
 /// digits) and of the challenge's kind, with the letter "A" behind its site, or the first line that the challenge has
 /// for the site. An old line of Ch_DFCF without a name gives way to the new one. `nom` is asked for Ch_DFCF only.
-std::vector<QString> Activations_Trelune(QStringView challenge, const Lignes_Texte &trelune,
-                                         const Lignes_Texte &anciennes, QStringView annee, const Nom_De_Site &nom);
+std::vector<QString> Activations_Trelune(Diplome challenge, const Lignes_Texte &trelune, const Lignes_Texte &anciennes,
+                                         QStringView annee, const Nom_De_Site &nom);
 
 /// Makes the log of the current challenge, the one that Liste_QSO shows, anew from the log of the sibling program. A
 /// challenge line without a line there goes: the sibling is the reference.

@@ -21,7 +21,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 /// Why a file is refused before a record was read; nullopt if it is not.
-std::optional<QString> Refus_Nom(const QString &chemin, const QString &code, const Choix_Import &choix)
+std::optional<QString> Refus_Nom(const QString &chemin, QStringView code, const Choix_Import &choix)
 {
     if (!choix.multi && !chemin.contains(code))
         return u"Attention le nom du fichier ne comporte pas le nom du diplome "_s + code;
@@ -39,7 +39,7 @@ void Refuse(Poste &poste, const QString &message)
 {
     poste.boites.Message(message);
     Remet_Le_Log(poste);
-    Charge_Log(poste, poste.etat.diplome);
+    Charge_Log(poste, poste.etat.station.diplome);
 }
 
 /// What a file gave: the lines for the log, CR LF between them, and the failure that ended it, if any.
@@ -52,7 +52,7 @@ Bilan Lit_Fichier_ADIF(Poste &poste, const Lignes_Texte &lignes, const Choix_Imp
 {
     Bilan bilan;
     Enregistrements_ADIF enregistrements(lignes);
-    Lignes_ADIF convertit(poste.etat.diplome, choix);
+    Lignes_ADIF convertit(poste.etat.station.diplome, choix);
     ecran.Avance(0, lignes.size());
     while (const std::optional<QStringView> enregistrement = enregistrements.Suivant()) {
         Lecture_ADIF lecture = convertit.Lit(*enregistrement);
@@ -109,14 +109,14 @@ void Importe(Poste &poste, const Choix_Import &choix, Ecran_Import &ecran)
 
 void Import_ADIF(Poste &poste, const Choix_Import &choix, Ecran_Import &ecran)
 {
-    const QString code = poste.etat.diplome;
+    const std::optional<Diplome> diplome = poste.etat.station.diplome;
     const QString chemin = ecran.Choisit_Fichier();
     if (chemin.isEmpty()) {
         poste.boites.Message(u"selectionnez un fichier ou quitter"_s);
         Remet_Le_Log(poste);
         return;
     }
-    if (const std::optional<QString> refus = Refus_Nom(chemin, code, choix))
+    if (const std::optional<QString> refus = Refus_Nom(chemin, Code(diplome), choix))
         return Refuse(poste, *refus);
     const Lignes_Texte lignes(Majuscules_1252(poste.dossier.Lit(chemin)));
     if (const std::optional<QString> refus = Refus_Contenu(lignes))
@@ -130,7 +130,7 @@ void Import_ADIF(Poste &poste, const Choix_Import &choix, Ecran_Import &ecran)
     if (!choix.ajout)
         Oublie_Le_Bak(poste);
     ecran.Ferme();
-    Charge_Log(poste, code);
+    Charge_Log(poste, diplome);
     Supprime_Doubles(poste);
     Trie_Log(poste);
     poste.ecran.Selectionne_Derniere();

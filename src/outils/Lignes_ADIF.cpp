@@ -103,7 +103,11 @@ QString Compose(Champs_QSO champs)
 
 } // namespace
 
-Lignes_ADIF::Lignes_ADIF(QString code, const Choix_Import &choix) : code_(std::move(code)), multi_(choix.multi) {}
+Lignes_ADIF::Lignes_ADIF(std::optional<Diplome> diplome, const Choix_Import &choix)
+    : diplome_(diplome),
+      multi_(choix.multi)
+{
+}
 
 Lecture_ADIF Lignes_ADIF::Lit(QStringView enregistrement)
 {
@@ -146,7 +150,7 @@ void Lignes_ADIF::Retient_Le_Prefixe(QStringView sig)
 bool Lignes_ADIF::Est_Retenu(QStringView dpt, QStringView ref) const
 {
     // Six blanks, where an absent reference has ten: such a record goes into the log. It stands so.
-    if (ref == u"      " || (code_ != u"FFF" && dpt == u"  "))
+    if (ref == u"      " || (diplome_ != Diplome::FFF && dpt == u"  "))
         return false;
-    return !multi_ || prefixe_ == code_;
+    return !multi_ || prefixe_ == Code(diplome_);
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "log/Diplome.h"
 #include "plateforme/Erreur_Execution.h"
 
 #include <QString>
@@ -24,11 +25,11 @@ struct Lecture_ADIF {
     std::optional<QString> ligne;
 };
 
-/// Turns the records of one file into lines for the log of `code`. The code before the dash of a reference stays in
+/// Turns the records of one file into lines for the log of an award. The code before the dash of a reference stays in
 /// force for the records behind it that have none.
 class Lignes_ADIF {
 public:
-    Lignes_ADIF(QString code, const Choix_Import &choix);
+    Lignes_ADIF(std::optional<Diplome> diplome, const Choix_Import &choix);
 
     /// `enregistrement` is in upper case.
     Lecture_ADIF Lit(QStringView enregistrement);
@@ -37,7 +38,7 @@ private:
     void Retient_Le_Prefixe(QStringView sig);
     [[nodiscard]] bool Est_Retenu(QStringView dpt, QStringView ref) const;
 
-    QString code_;
+    std::optional<Diplome> diplome_;
     bool multi_;
     std::optional<QString> prefixe_;
 };

@@ -13,12 +13,12 @@ namespace {
 
 QString Bak_Sans_Annee(const Etat_Commun &etat)
 {
-    return etat.indicatif + u'_' + etat.diplome + u".bak";
+    return etat.station.indicatif + u'_' + Code(etat.station.diplome) + u".bak";
 }
 
 QString Log_Sans_Annee(const Etat_Commun &etat)
 {
-    return Chemin_Log_Sans_Annee(etat.indicatif, etat.diplome);
+    return Chemin_Log(etat.station.indicatif, etat.station.diplome);
 }
 
 void Devient(Poste &poste, const QString &source, const QString &cible)

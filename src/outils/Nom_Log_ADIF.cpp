@@ -4,8 +4,8 @@
 
 QString Nom_Log_ADIF(const Etat_Commun &etat)
 {
-    const QString nom = etat.indicatif + u'_' + etat.diplome;
-    if (etat.diplome == u"Ch_DFCF")
-        return nom + u'_' + etat.annee_ch_dfcf;
+    const QString nom = etat.station.indicatif + u'_' + Code(etat.station.diplome);
+    if (etat.station.diplome == Diplome::Ch_DFCF)
+        return nom + u'_' + etat.station.annee_ch_dfcf;
     return nom;
 }

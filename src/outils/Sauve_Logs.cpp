@@ -1,6 +1,5 @@
 #include "outils/Sauve_Logs.h"
 
-#include "log/Catalogue.h"
 #include "log/Chemin_Log.h"
 #include "log/Cles.h"
 #include "log/Etat_Commun.h"
@@ -18,8 +17,8 @@ void Sauve_Logs(Poste &poste)
     // A folder of another system ("C:\..." here) is no full path: its copies would land among the logs.
     if (!QDir::isAbsolutePath(repertoire))
         return;
-    for (const QStringView code : codes_diplome) {
-        const QString cible = repertoire + u'/' + Chemin_Log_Sans_Annee(poste.etat.indicatif, code);
-        Tolere([&] { poste.dossier.Copie(Chemin_Log(poste.etat, code), cible); });
+    for (const Diplome diplome : tous_les_diplomes) {
+        const QString cible = repertoire + u'/' + Chemin_Log(poste.etat.station.indicatif, diplome);
+        Tolere([&] { poste.dossier.Copie(poste.etat.station.Log(diplome), cible); });
     }
 }

@@ -30,14 +30,14 @@ constexpr qint64 jours_entre_sauvegardes = 8;
 
 bool Est_Premiere_Installation(const Poste &poste)
 {
-    return poste.etat.indicatif == indicatif_absent;
+    return poste.etat.station.indicatif == indicatif_absent;
 }
 
 void Reprend_Station(Poste &poste, Vue_Saisie &vue)
 {
-    poste.etat.indicatif = Lit_General(poste, cles::indicatif_station, indicatif_absent);
+    poste.etat.station.indicatif = Lit_General(poste, cles::indicatif_station, indicatif_absent);
     // As stored: only a change of station turns "_" back to "/".
-    vue.Ecrit(Controle::I_Station, poste.etat.indicatif);
+    vue.Ecrit(Controle::I_Station, poste.etat.station.indicatif);
     Reprend_Bande_Et_Mode(poste, vue);
     Reprend_Choix(poste, vue, Controle::Dip_A, cles::diplome_utilise);
     Lit_Annees_Challenge(poste);
@@ -92,15 +92,16 @@ void Montre_Le_Log(Poste &poste, Vue_Saisie &vue)
     poste.etat.qso_affiche = false;
     vue.Montre_Ecran();
     if (!Est_Premiere_Installation(poste))
-        Tolere([&] { Charge_Log(poste, vue.Texte(Controle::Dip_A)); });
+        Tolere([&] { Charge_Log(poste, Diplome_De(vue.Texte(Controle::Dip_A))); });
     vue.Selectionne_Derniere();
 }
 
 /// Carries a station's folder over versions that added awards.
 void Cree_Logs_Manquants(Poste &poste)
 {
-    for (const QStringView code : {u"DFF", u"DVFF", u"WLF", u"DYLF", u"DDFM", u"DPF", u"PC"})
-        Tolere([&] { poste.dossier.Cree_Si_Absent(Chemin_Log_Sans_Annee(poste.etat.indicatif, code)); });
+    for (const Diplome diplome :
+         {Diplome::DFF, Diplome::DVFF, Diplome::WLF, Diplome::DYLF, Diplome::DDFM, Diplome::DPF, Diplome::PC})
+        Tolere([&] { poste.dossier.Cree_Si_Absent(Chemin_Log(poste.etat.station.indicatif, diplome)); });
     Tolere([&] { poste.dossier.Cree_Si_Absent(u"Liste_PC.csv"_s); });
     Tolere([&] { poste.dossier.Cree_Si_Absent(fichier_prenoms.toString()); });
 }
@@ -123,13 +124,13 @@ void Demarre(Poste &poste, Vue_Saisie &vue)
     const bool sans_sauvegarde = Demande_Repertoire_Sauvegarde(poste);
     Sauve_Si_Besoin(poste);
     Reprend_Separateur(poste, vue);
-    vue.Ecrit(Controle::Type_Ref, Type_Ref(vue.Texte(Controle::Dip_A)).toString());
+    vue.Ecrit(Controle::Type_Ref, Type_Ref(Diplome_De(vue.Texte(Controle::Dip_A))).toString());
     Retient_Repertoire(poste);
     if (Est_Premiere_Installation(poste))
         poste.boites.Message(Message_Premiere_Installation());
     Montre_Le_Log(poste, vue);
     Retient_Repertoire(poste);
-    poste.etat.diplome = vue.Texte(Controle::Dip_A);
+    poste.etat.station.diplome = Diplome_De(vue.Texte(Controle::Dip_A));
     poste.etat.prenom_nouveau = false;
     Cree_Logs_Manquants(poste);
     Installe_Textes(poste, vue);

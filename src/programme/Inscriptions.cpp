@@ -49,10 +49,10 @@ void Inscrit_Ecran(Registre &registre, Poste &poste, const QString &nom, Reouver
     registre.Inscrit_Ecran({nom, [&poste] { return new Screen(poste); }, reouverture, attache});
 }
 
-void Inscrit_Annee_Challenge(Registre &registre, Poste &poste, const QString &commande, const QString &genre)
+void Inscrit_Annee_Challenge(Registre &registre, Poste &poste, const QString &commande, Diplome challenge)
 {
-    registre.Inscrit_Commande(commande, [&poste, genre] {
-        poste.etat.genre_challenge = genre;
+    registre.Inscrit_Commande(commande, [&poste, challenge] {
+        poste.etat.challenge = challenge;
         poste.ecrans.Montre_Modal(u"Select_Annee"_s);
     });
 }
@@ -94,19 +94,20 @@ void Inscrit_Commandes(Registre &registre, Poste &poste)
     commande(u"Supprime_Doubles"_s, Supprime_Doubles);
     commande(u"Collecte_DDFM"_s, Collecte_DDFM);
     commande(u"Fusion_Trelune"_s, Fusion_Trelune);
-    for (const QStringView code : {u"DFCF", u"DMF"})
-        registre.Inscrit_Commande(u"Fusion_Activite_"_s + code, [&poste, code] { Fusion_Activite(poste, code); });
+    for (const Diplome source : {Diplome::DFCF, Diplome::DMF})
+        registre.Inscrit_Commande(u"Fusion_Activite_"_s + Code(source),
+                                  [&poste, source] { Fusion_Activite(poste, source); });
     commande(u"Liste_Des_Iles"_s, Liste_Des_Iles);
     commande(u"Nouvelle_Revision"_s, Nouvelle_Revision);
     // The award that Dip_A shows, opened with Enter or not; a text that is no award has no screen.
     registre.Inscrit_Commande(u"Fiche_Diplome"_s,
-                              [&poste] { poste.ecrans.Montre(Ecran_Du_Diplome(poste.ecran.Dip_A())); });
+                              [&poste] { poste.ecrans.Montre(Ecran_Du_Diplome(Diplome_De(poste.ecran.Dip_A()))); });
     for (const Maj &maj : Majs_Liste())
         registre.Inscrit_Commande(maj.menu.toString(), [&poste, &maj] { Maj_Liste(poste, maj); });
     for (const Maj_Nom &maj : Majs_Nom())
         registre.Inscrit_Commande(maj.menu.toString(), [&poste, &maj] { Maj_Noms(poste, maj); });
-    Inscrit_Annee_Challenge(registre, poste, u"Annee_Ch_DFCF"_s, u"DFCF"_s);
-    Inscrit_Annee_Challenge(registre, poste, u"Annee_Ch_DMF"_s, u"DMF"_s);
+    Inscrit_Annee_Challenge(registre, poste, u"Annee_Ch_DFCF"_s, Diplome::Ch_DFCF);
+    Inscrit_Annee_Challenge(registre, poste, u"Annee_Ch_DMF"_s, Diplome::Ch_DMF);
 }
 
 } // namespace

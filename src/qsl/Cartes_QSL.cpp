@@ -1,7 +1,6 @@
 #include "qsl/Cartes_QSL.h"
 
 #include "log/Charge_Log.h"
-#include "log/Chemin_Log.h"
 #include "log/Ecran_Principal.h"
 #include "log/Etat_Commun.h"
 #include "log/Ligne_Log.h"
@@ -47,10 +46,10 @@ QString Texte_Marque(const Lignes_Texte &lignes, const std::vector<QString> &coc
     return texte;
 }
 
-Cartes_Attendues Cherche_Cartes(Poste &poste, QStringView code, QStringView indicatif)
+Cartes_Attendues Cherche_Cartes(Poste &poste, Diplome diplome, QStringView indicatif)
 {
     Lit_Annees_Challenge(poste);
-    const QString log = Chemin_Log(poste.etat, code);
+    const QString log = poste.etat.station.Log(diplome);
     return {.log = log, .lignes = Sans_Carte(poste.dossier.Lit_Lignes(log), indicatif)};
 }
 
@@ -58,6 +57,6 @@ void Marque_Cartes(Poste &poste, const QString &log, const std::vector<QString> 
 {
     const Lignes_Texte lignes = poste.dossier.Lit_Lignes(log);
     poste.dossier.Remplace(log, Texte_Marque(lignes, cochees), u"Temporaire_QSL.txt"_s);
-    Charge_Log(poste, poste.etat.diplome);
+    Charge_Log(poste, poste.etat.station.diplome);
     poste.ecran.Selectionne_Derniere();
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "log/Diplome.h"
 #include "plateforme/Lignes_Texte.h"
 
 #include <QString>
@@ -22,8 +23,9 @@ struct Cartes_Attendues {
     std::vector<QString> lignes;
 };
 
-/// Looks through the log of `code`; the years of the challenges are read anew. Throws Erreur_Execution if it is absent.
-Cartes_Attendues Cherche_Cartes(Poste &poste, QStringView code, QStringView indicatif);
+/// Looks through the log of `diplome`; the years of the challenges are read anew. Throws Erreur_Execution if it is
+/// absent.
+Cartes_Attendues Cherche_Cartes(Poste &poste, Diplome diplome, QStringView indicatif);
 
 /// Marks the ticked lines in `log` as it is on the disk now, so that a QSO stored since the search is kept. Reloads the
 /// current award, of which the log may be another, and selects its last QSO.

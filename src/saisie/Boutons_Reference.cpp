@@ -14,26 +14,26 @@ using namespace Qt::StringLiterals;
 namespace {
 
 struct Reponse {
-    QStringView code;
+    Diplome diplome;
     QStringView ecran;    ///< the screen that opens, or
     QStringView commande; ///< the command that runs
 };
 
 // clang-format off
 constexpr Reponse reponses[] = {
-    {u"DOHF", u"Detail_Activite", u""},
-    {u"DCF", u"Liste_References", u""},
-    {u"DFCF", u"Detail_DFCF", u""},
-    {u"DYLF", u"Scores_DYLF", u""},
-    {u"DPF", u"Detail_DPF", u""},
-    {u"TDC", u"Detail_TDC", u""},
-    {u"FFF", u"Detail_FFF", u""},
-    {u"DPLF", u"Liste_References", u""},
-    {u"PC", u"Detail_PC", u""},
-    {u"DDFM", u"", u"Collecte_DDFM"},
-    {u"Ch_DFCF", u"", u"Fusion_Activite_DFCF"},
-    {u"Ch_DMF", u"", u"Fusion_Activite_DMF"},
-    {u"DIFM", u"", u"Liste_Des_Iles"},
+    {Diplome::DOHF, u"Detail_Activite", u""},
+    {Diplome::DCF, u"Liste_References", u""},
+    {Diplome::DFCF, u"Detail_DFCF", u""},
+    {Diplome::DYLF, u"Scores_DYLF", u""},
+    {Diplome::DPF, u"Detail_DPF", u""},
+    {Diplome::TDC, u"Detail_TDC", u""},
+    {Diplome::FFF, u"Detail_FFF", u""},
+    {Diplome::DPLF, u"Liste_References", u""},
+    {Diplome::PC, u"Detail_PC", u""},
+    {Diplome::DDFM, u"", u"Collecte_DDFM"},
+    {Diplome::Ch_DFCF, u"", u"Fusion_Activite_DFCF"},
+    {Diplome::Ch_DMF, u"", u"Fusion_Activite_DMF"},
+    {Diplome::DIFM, u"", u"Liste_Des_Iles"},
 };
 // clang-format on
 
@@ -46,14 +46,14 @@ void Dit_Inactif(Poste &poste)
 
 void Presse_Detail(Poste &poste, Commandes &commandes)
 {
-    const QString &code = poste.etat.diplome;
+    const std::optional<Diplome> diplome = poste.etat.station.diplome;
     // Ch_DMF is not spared the question as Ch_DFCF is.
-    if (code != u"Ch_DFCF" && poste.etat.ligne_selectionnee.isEmpty()) {
+    if (diplome != Diplome::Ch_DFCF && poste.etat.ligne_selectionnee.isEmpty()) {
         poste.boites.Message(u"Selectionnez un QSO"_s);
         return;
     }
     const auto *reponse =
-        std::find_if(std::begin(reponses), std::end(reponses), [&](const Reponse &r) { return r.code == code; });
+        std::find_if(std::begin(reponses), std::end(reponses), [&](const Reponse &r) { return r.diplome == diplome; });
     if (reponse == std::end(reponses))
         Dit_Inactif(poste);
     else if (!reponse->ecran.isEmpty())
@@ -64,7 +64,7 @@ void Presse_Detail(Poste &poste, Commandes &commandes)
 
 void Presse_Detail_1(Poste &poste, Commandes &commandes)
 {
-    if (Est_Challenge(poste.etat.diplome))
+    if (Est_Challenge(poste.etat.station.diplome))
         commandes.Execute(u"Fusion_Trelune"_s);
     else
         Dit_Inactif(poste);

@@ -17,9 +17,9 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-bool Sans_Reference(QStringView code)
+bool Sans_Reference(std::optional<Diplome> diplome)
 {
-    return code == u"DPF" || code == u"DDFM" || code == u"DYLF";
+    return diplome == Diplome::DPF || diplome == Diplome::DDFM || diplome == Diplome::DYLF;
 }
 
 void Entree_Bande(Poste &poste, Vue_Saisie &vue)
@@ -44,7 +44,7 @@ void Entree_Ind(Poste &poste, Vue_Saisie &vue)
 
 void Entree_Dpt(Poste &poste, Vue_Saisie &vue)
 {
-    if (poste.etat.diplome != u"FFF" && !Passe(poste, Refus_Dpt(vue.Texte(Controle::Dpt_A))))
+    if (poste.etat.station.diplome != Diplome::FFF && !Passe(poste, Refus_Dpt(vue.Texte(Controle::Dpt_A))))
         return;
     if (poste.etat.saisie_differee || poste.etat.QSO_Touche()) {
         Avance(vue, Controle::Date_A);
@@ -59,7 +59,7 @@ void Entree_Dpt(Poste &poste, Vue_Saisie &vue)
 /// In DPF and DDFM a department counts once for each band and mode.
 Refus Refus_Deja_Contacte(const Poste &poste, const Vue_Saisie &vue)
 {
-    const bool concerne = poste.etat.diplome == u"DPF" || poste.etat.diplome == u"DDFM";
+    const bool concerne = poste.etat.station.diplome == Diplome::DPF || poste.etat.station.diplome == Diplome::DDFM;
     if (!concerne || poste.etat.QSO_Touche())
         return std::nullopt;
     const Trouvaille trouvaille = Cherche_Dpt_Bande_Mode(poste, vue.Texte(Controle::Dpt_A),
@@ -121,7 +121,7 @@ void Entree(Poste &poste, Vue_Saisie &vue, Controle champ)
     case Controle::Ind_A:
         return Entree_Ind(poste, vue);
     case Controle::Prenom_A:
-        return Avance(vue, Sans_Reference(poste.etat.diplome) ? Controle::Dpt_A : Controle::Ref_A);
+        return Avance(vue, Sans_Reference(poste.etat.station.diplome) ? Controle::Dpt_A : Controle::Ref_A);
     case Controle::Ref_A:
         return Entree_Ref(poste, vue);
     case Controle::Dpt_A:
@@ -149,7 +149,7 @@ bool Accepte_Touche(Poste &poste, Vue_Saisie &vue, Controle champ)
 {
     if (champ == Controle::Dip_A)
         return Accepte_Touche_Dip(poste);
-    if (champ == Controle::Ind_A && poste.etat.indicatif == indicatif_absent) {
+    if (champ == Controle::Ind_A && poste.etat.station.indicatif == indicatif_absent) {
         poste.boites.Message(Message_Premiere_Installation_Ind());
         return false;
     }

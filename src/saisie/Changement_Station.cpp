@@ -1,6 +1,5 @@
 #include "saisie/Changement_Station.h"
 
-#include "log/Catalogue.h"
 #include "log/Charge_Log.h"
 #include "log/Chemin_Log.h"
 #include "log/Cles.h"
@@ -26,7 +25,7 @@ bool Est_Permis(QChar caractere)
 
 void Installe_Nouvelle_Station(Poste &poste)
 {
-    Tolere([&] { Cree_Logs(poste, poste.etat.indicatif); });
+    Tolere([&] { Cree_Logs(poste, poste.etat.station.indicatif); });
     Tolere([&] { Ecrit_Station(poste, cles::bande_utilisee, u"0"_s); });
     Tolere([&] { Ecrit_Station(poste, cles::mode_utilise, u"0"_s); });
 }
@@ -51,20 +50,20 @@ bool Est_Refus_De_Caractere(QStringView indicatif)
 
 void Cree_Logs(Poste &poste, QStringView indicatif)
 {
-    for (const QStringView code : codes_diplome)
-        Tolere([&] { poste.dossier.Remplace(Chemin_Log_Sans_Annee(indicatif, code), u"", u"Temporaire.txt"_s); });
+    for (const Diplome diplome : tous_les_diplomes)
+        Tolere([&] { poste.dossier.Remplace(Chemin_Log(indicatif, diplome), u"", u"Temporaire.txt"_s); });
 }
 
 void Change_Station(Poste &poste, Vue_Saisie &vue, const QString &indicatif)
 {
-    poste.etat.indicatif = indicatif;
+    poste.etat.station.indicatif = indicatif;
     // A DFCF log that is there and does not open is no reason to empty the others.
-    if (!poste.dossier.Existe(Chemin_Log_Sans_Annee(indicatif, u"DFCF")))
+    if (!poste.dossier.Existe(Chemin_Log(indicatif, Diplome::DFCF)))
         Installe_Nouvelle_Station(poste);
     Tolere([&] { Ecrit_General(poste, cles::indicatif_station, indicatif); });
     vue.Ecrit(Controle::I_Station, QString(indicatif).replace(u'_', u'/'));
     Reprend_Bande_Et_Mode(poste, vue);
     Lit_Annees_Challenge(poste);
-    Tolere([&] { Charge_Log(poste, poste.etat.diplome); });
+    Tolere([&] { Charge_Log(poste, poste.etat.station.diplome); });
     poste.ecrans.Suit_La_Station();
 }

@@ -2,7 +2,6 @@
 
 #include "log/Catalogue.h"
 #include "log/Charge_Log.h"
-#include "log/Chemin_Log.h"
 #include "log/Cles.h"
 #include "log/Etat_Commun.h"
 #include "log/Poste.h"
@@ -23,22 +22,20 @@ namespace {
 
 /// What tells the two challenges apart when they are opened.
 struct Challenge {
-    QStringView code;
-    QStringView genre;
+    Diplome diplome;
     QStringView cle_annee;
-    QString Etat_Commun::*annee;
     QStringView rappel;
 };
 
 // clang-format off
 constexpr Challenge challenges[] = {
-    {u"Ch_DFCF", u"DFCF", cles::annee_challenge_dfcf, &Etat_Commun::annee_ch_dfcf,
+    {Diplome::Ch_DFCF, cles::annee_challenge_dfcf,
      u" Lettres qui doivent suivent la référence :\n\n"
      u" - A - Activation contactée et validée\n"
      u" - R - Réactivation contactée et validée\n"
      u" - C - Activeur de Chateau validé\n"
      u" - B - Activeur de Chateau réactivé et validé\n"},
-    {u"Ch_DMF", u"DMF", cles::annee_challenge_dmf, &Etat_Commun::annee_ch_dmf,
+    {Diplome::Ch_DMF, cles::annee_challenge_dmf,
      u" Lettres qui doivent suivent la référence :\n\n"
      u" - A - Activation contactée et validée\n"
      u" - R - Réactivation contactée et validée\n"
@@ -73,13 +70,13 @@ void Ecrit_Habillage(Vue_Saisie &vue, const Habillage &habillage)
 /// False if the operator closed the choice of a year without making one, and there is no log to show.
 bool Choisit_Annee_Challenge(Poste &poste, const Challenge &challenge)
 {
-    QString &annee = poste.etat.*challenge.annee;
+    QString &annee = poste.etat.station.Annee_Challenge(challenge.diplome);
     annee = Lit_Station(poste, challenge.cle_annee, annee_absente);
     if (annee != annee_absente)
         return true;
-    poste.etat.genre_challenge = challenge.genre.toString();
+    poste.etat.challenge = challenge.diplome;
     poste.ecrans.Montre_Modal(u"Select_Annee"_s);
-    return annee != annee_absente || poste.dossier.S_Ouvre(Chemin_Log(poste.etat, challenge.code));
+    return annee != annee_absente || poste.dossier.S_Ouvre(poste.etat.station.Log(challenge.diplome));
 }
 
 bool Habille_Challenge(Poste &poste, Vue_Saisie &vue, const Challenge &challenge, const Habillage &habillage)
@@ -87,19 +84,20 @@ bool Habille_Challenge(Poste &poste, Vue_Saisie &vue, const Challenge &challenge
     if (!Choisit_Annee_Challenge(poste, challenge))
         return false;
     Ecrit_Habillage(vue, habillage);
-    vue.Ecrit(Controle::Frame3, habillage.frame3 + poste.etat.*challenge.annee);
+    vue.Ecrit(Controle::Frame3, habillage.frame3 + *poste.etat.station.Annee(challenge.diplome));
     if (poste.reglages.Lit_Trelune(u"Setup"_s, cles::chemin_repertoire.toString(), u"Absent"_s) != u"Absent")
         vue.Ecrit(Controle::Detail_1, u"Mise a jour via Trelune"_s);
     poste.boites.Message(challenge.rappel.toString());
     return true;
 }
 
-bool Habille(Poste &poste, Vue_Saisie &vue, const Habillage &habillage)
+bool Habille(Poste &poste, Vue_Saisie &vue, Diplome diplome)
 {
+    const Habillage &habillage = Habillage_De(diplome);
     for (const Challenge &challenge : challenges)
-        if (challenge.code == habillage.code)
+        if (challenge.diplome == diplome)
             return Habille_Challenge(poste, vue, challenge, habillage);
-    if (habillage.code == u"FFF")
+    if (diplome == Diplome::FFF)
         Previent_Liste_FFF(poste);
     Ecrit_Habillage(vue, habillage);
     return true;
@@ -123,7 +121,7 @@ void Repart_De_Zero(Poste &poste, Vue_Saisie &vue)
 
 bool A_Un_Log_Ouvert(Poste &poste, Vue_Saisie &vue)
 {
-    if (poste.dossier.S_Ouvre(Chemin_Log(poste.etat, poste.etat.diplome)))
+    if (poste.dossier.S_Ouvre(poste.etat.station.Log_Courant()))
         return true;
     poste.boites.Message(u"Selectionnez un diplome"_s);
     vue.Donne_Focus(Controle::Dip_A);
@@ -132,7 +130,7 @@ bool A_Un_Log_Ouvert(Poste &poste, Vue_Saisie &vue)
 
 bool Accepte_Touche_Dip(Poste &poste)
 {
-    if (poste.etat.indicatif != indicatif_absent)
+    if (poste.etat.station.indicatif != indicatif_absent)
         return true;
     poste.boites.Message(Message_Premiere_Installation());
     return false;
@@ -141,23 +139,22 @@ bool Accepte_Touche_Dip(Poste &poste)
 void Ouvre_Diplome(Poste &poste, Vue_Saisie &vue)
 {
     Met_Dip_En_Forme(vue);
-    const QString code = vue.Dip_A();
-    const Habillage *habillage = Habillage_De(code);
-    if (!habillage) {
+    const std::optional<Diplome> diplome = Diplome_De(vue.Dip_A());
+    if (!diplome) {
         poste.boites.Message(u"Selectionnez un diplome"_s);
         return;
     }
-    const QString precedent = std::exchange(poste.etat.diplome, code);
-    if (!Habille(poste, vue, *habillage)) {
-        poste.etat.diplome = precedent;
-        vue.Ecrit(Controle::Dip_A, precedent);
+    const std::optional<Diplome> precedent = std::exchange(poste.etat.station.diplome, diplome);
+    if (!Habille(poste, vue, *diplome)) {
+        poste.etat.station.diplome = precedent;
+        vue.Ecrit(Controle::Dip_A, Code(precedent).toString());
         return;
     }
     vue.Efface_Saisie();
-    Charge_Log(poste, code);
-    poste.etat.diplome = code;
+    Charge_Log(poste, diplome);
+    poste.etat.station.diplome = diplome;
     poste.ecrans.Suit_Le_Log();
-    vue.Ecrit(Controle::Type_Ref, Type_Ref(code).toString());
+    vue.Ecrit(Controle::Type_Ref, Type_Ref(diplome).toString());
     vue.Active(Controle::Bande_A, true);
     vue.Donne_Focus(Controle::Bande_A);
     Repart_De_Zero(poste, vue);

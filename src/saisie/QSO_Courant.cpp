@@ -103,13 +103,13 @@ void Supprime_QSO(Poste &poste, Vue_Saisie &vue)
     }
     if (!A_Un_Log_Ouvert(poste, vue))
         return;
-    const QString code = vue.Dip_A();
-    if (!Est_Code_Diplome(code)) {
+    const std::optional<Diplome> diplome = Diplome_De(vue.Dip_A());
+    if (!diplome) {
         poste.boites.Message(u"Selectionnez un diplome"_s);
         return;
     }
     const QString ligne = Ligne_Log_Affichee(poste.etat.ligne_selectionnee);
     if (poste.boites.Question(u"Voulez vous Supprimer ce QSO ?"_s))
-        Supprime_Ligne(poste, ligne, code);
+        Supprime_Ligne(poste, ligne, *diplome);
     vue.Active(Controle::Annule_Saisie, false);
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "log/Diplome.h"
 #include "saisie/Refus.h"
 
 #include <QStringView>
@@ -15,7 +16,7 @@ enum class Source_Dpt {
 
 /// The rule of one award for its references.
 struct Regle_Ref {
-    QStringView code;
+    Diplome diplome;
     qsizetype minimum; ///< characters
     qsizetype maximum;
     QStringView refus_longueur;
@@ -28,8 +29,8 @@ struct Regle_Ref {
     bool prefixe_en_edition; ///< the prefix overwrites a stored name too
 };
 
-/// nullptr for an award without references and for a text that is no award.
-const Regle_Ref *Regle_Ref_De(QStringView code);
+/// nullptr for an award without references and without an award.
+const Regle_Ref *Regle_Ref_De(std::optional<Diplome> diplome);
 
 /// The award's own check of a reference: length, and for some awards the characters.
 Refus Refus_Forme_Ref(const Regle_Ref &regle, QStringView ref);

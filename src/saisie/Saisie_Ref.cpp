@@ -25,7 +25,7 @@ Refus Refus_Repetition(const Poste &poste, const QString &ref)
 {
     if (poste.etat.QSO_Touche() || poste.etat.saisie_differee)
         return std::nullopt;
-    const Trouvaille trouvaille = Cherche_Ref(poste, poste.etat.diplome, ref);
+    const Trouvaille trouvaille = Cherche_Ref(poste, poste.etat.station.diplome, ref);
     if (!trouvaille.oui)
         return std::nullopt;
     return u"La référence "_s + ref + u" a été contactée le " + trouvaille.date;
@@ -34,20 +34,20 @@ Refus Refus_Repetition(const Poste &poste, const QString &ref)
 /// What the award's list tells; an award without a list tells nothing.
 Reference_Trouvee Recherche(Poste &poste, QStringView ref)
 {
-    const QString &code = poste.etat.diplome;
-    if (code == u"DOHF")
+    const std::optional<Diplome> diplome = poste.etat.station.diplome;
+    if (diplome == Diplome::DOHF)
         return Cherche_Ouvrage(poste.dossier, ref);
-    if (code == u"TDC")
+    if (diplome == Diplome::TDC)
         return Cherche_TDC(poste.dossier, poste.boites, ref);
-    if (code == u"DCF")
+    if (diplome == Diplome::DCF)
         return Cherche_DCF(poste.dossier, ref);
-    if (code == u"FFF")
+    if (diplome == Diplome::FFF)
         return Cherche_FFF(poste.dossier, ref);
-    if (code == u"DPLF")
+    if (diplome == Diplome::DPLF)
         return Cherche_DPLF(poste.dossier, ref);
-    if (code == u"DFCF" || code == u"Ch_DFCF")
+    if (diplome == Diplome::DFCF || diplome == Diplome::Ch_DFCF)
         return {.nom = Cherche_DFCF(poste.dossier, ref), .dpt = {}};
-    if (code == u"PC")
+    if (diplome == Diplome::PC)
         return Cherche_PC(poste.dossier, ref);
     return {};
 }
@@ -87,7 +87,7 @@ bool Applique_Regle(Poste &poste, Vue_Saisie &vue, const Regle_Ref &regle, const
     if (!Passe(poste, Refus_Forme_Ref(regle, ref)))
         return false;
     const Reference_Trouvee trouvee = Recherche(poste, ref);
-    if (regle.code == u"DCF" && trouvee.dpt.value_or(QString()).isEmpty())
+    if (regle.diplome == Diplome::DCF && trouvee.dpt.value_or(QString()).isEmpty())
         poste.boites.Message(u"Référence non trouvée, cliquez sur le bouton 'Liste Cathédrales'"_s);
     Remplit_Dpt(vue, regle, trouvee, ref);
     Remplit_Nom(vue, regle, trouvee);
@@ -102,7 +102,7 @@ void Entree_Ref(Poste &poste, Vue_Saisie &vue)
     const QString ref = vue.Texte(Controle::Ref_A);
     if (!Passe(poste, Refus_Longueur_Generale(ref)) || !Passe(poste, Refus_Repetition(poste, ref)))
         return;
-    const Regle_Ref *regle = Regle_Ref_De(poste.etat.diplome);
+    const Regle_Ref *regle = Regle_Ref_De(poste.etat.station.diplome);
     if (regle && !Applique_Regle(poste, vue, *regle, ref))
         return;
     Avance(vue, Controle::Dpt_A);

@@ -75,7 +75,7 @@ bool Tient_Dans_Les_Colonnes(Poste &poste, Vue_Saisie &vue)
 bool Nomme_Un_Log(Poste &poste, Vue_Saisie &vue)
 {
     const bool ajoute = !poste.etat.qso_affiche && !poste.etat.saisie_differee;
-    const bool sans_log = ajoute && !Est_Code_Diplome(vue.Dip_A());
+    const bool sans_log = ajoute && !Diplome_De(vue.Dip_A());
     return Tient(poste, vue, Controle::Dip_A, sans_log ? Refus(u"Selectionnez un diplome"_s) : std::nullopt);
 }
 
@@ -112,7 +112,7 @@ void Range(Poste &poste, const Vue_Saisie &vue, const QString &ligne)
     if (poste.etat.qso_affiche)
         Remplace_Ligne(poste, ligne, Ligne_Log_Affichee(poste.etat.ligne_selectionnee));
     else if (!poste.etat.saisie_differee)
-        Ajoute_Ligne(poste, ligne, vue.Dip_A());
+        Ajoute_Ligne(poste, ligne, Diplome_De(vue.Dip_A()).value());
     else
         Insere_Ligne(poste, ligne);
 }

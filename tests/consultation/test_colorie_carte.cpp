@@ -98,7 +98,7 @@ TEST(Colorie_Carte, lit_le_log_du_diplome_courant_avec_l_annee)
     Poste_Essai essai;
     essai.Ouvre(u"Ch_DFCF"_s);
     EXPECT_THROW(Colorie_Carte(essai.poste), Erreur_Execution);
-    essai.etat.annee_ch_dfcf = u"2017"_s;
+    essai.etat.station.annee_ch_dfcf = u"2017"_s;
     essai.fichiers.Pose(u"F9ZZY_Ch_DFCF_2017.log"_s, Contact(u"77"_s).toLatin1());
     const Carte_Contactee carte = Colorie_Carte(essai.poste);
     EXPECT_EQ(Couleur(carte.couleurs, 77), Couleur_Dep::Non_Confirme);

@@ -20,7 +20,7 @@ QString Texte(const std::vector<QString> &lignes)
 
 std::vector<QString> Lignes(const QString &code, const std::vector<QString> &log, const QString &bande = {})
 {
-    return Lignes_Contactes(Lignes_Texte(Texte(log)), code, bande);
+    return Lignes_Contactes(Lignes_Texte(Texte(log)), Diplome_De(code), bande);
 }
 
 QByteArray Attendu(const QString &nom)
@@ -124,26 +124,26 @@ TEST(Lignes_Contactes, DDFM_et_DYLF_gardent_une_station_d_une_autre_minute)
 
 TEST(Entete_Contactes, depend_du_diplome)
 {
-    EXPECT_TRUE(Entete_Contactes(u"DDFM").startsWith(u"  Num   Dpt           Indicatif"));
-    EXPECT_TRUE(Entete_Contactes(u"DYLF").contains(u"Ville"));
-    EXPECT_TRUE(Entete_Contactes(u"PC").startsWith(u"  Num        Ref           Indicatif"));
-    EXPECT_EQ(Titre_Contactes(u"DFCF"), u"Liste alphanumérique des DFCF contacté(e)s"_s);
+    EXPECT_TRUE(Entete_Contactes(Diplome::DDFM).startsWith(u"  Num   Dpt           Indicatif"));
+    EXPECT_TRUE(Entete_Contactes(Diplome::DYLF).contains(u"Ville"));
+    EXPECT_TRUE(Entete_Contactes(Diplome::PC).startsWith(u"  Num        Ref           Indicatif"));
+    EXPECT_EQ(Titre_Contactes(Diplome::DFCF), u"Liste alphanumérique des DFCF contacté(e)s"_s);
 }
 
 TEST(Remplit_Contacte, lit_le_log_de_l_annee_du_challenge)
 {
     Poste_Essai essai;
-    essai.etat.annee_ch_dmf = u"2018"_s;
+    essai.etat.station.annee_ch_dmf = u"2018"_s;
     essai.fichiers.Pose(u"F9ZZY_Ch_DMF_2018.log"_s, QSO({.ref = u"77001R"_s}).toLatin1());
-    EXPECT_EQ(Remplit_Contacte(essai.poste, u"Ch_DMF", u"").lignes.size(), 1U);
-    EXPECT_THROW(Remplit_Contacte(essai.poste, u"Ch_DFCF", u""), Erreur_Execution);
+    EXPECT_EQ(Remplit_Contacte(essai.poste, Diplome::Ch_DMF, u"").lignes.size(), 1U);
+    EXPECT_THROW(Remplit_Contacte(essai.poste, Diplome::Ch_DFCF, u""), Erreur_Execution);
 }
 
 TEST(Enregistre_Contactes, ecrit_la_vue_octet_pour_octet)
 {
     Poste_Essai essai;
     Pose_Log(essai);
-    Enregistre_Contactes(essai.poste, Remplit_Contacte(essai.poste, u"DFCF", u""));
+    Enregistre_Contactes(essai.poste, Remplit_Contacte(essai.poste, Diplome::DFCF, u""));
     const QString nom = u"F9ZZY_activations_DFCF_15_11_26.txt"_s;
     EXPECT_EQ(essai.boites.messages, std::vector<QString>{u"Le log a été enregistré sous le nom : "_s + nom});
     EXPECT_EQ(essai.fichiers.Octets(nom), Attendu(nom));
@@ -154,7 +154,7 @@ TEST(Imprime_Contactes, imprime_les_lignes_telles_qu_elles_sont)
 {
     Poste_Essai essai;
     Pose_Log(essai);
-    const Contactes contactes = Remplit_Contacte(essai.poste, u"DFCF", u"");
+    const Contactes contactes = Remplit_Contacte(essai.poste, Diplome::DFCF, u"");
     Imprime_Contactes(essai.poste, contactes);
     EXPECT_EQ(essai.imprimante.titres, std::vector{u"Liste alphanumérique des DFCF contacté(e)s"_s});
     ASSERT_EQ(essai.imprimante.documents.size(), 1U);

@@ -86,7 +86,7 @@ TEST(Reglements, chaque_diplome_a_sa_page_sur_son_site)
     // clang-format on
     ASSERT_EQ(attendus.size(), codes_diplome.size());
     for (const auto &[code, adresse] : attendus) {
-        essai.etat.diplome = code;
+        essai.etat.station.diplome = Diplome_De(code);
         Choisit_Reglement(essai.poste);
         EXPECT_EQ(essai.etat.adresse_page, adresse);
     }
@@ -96,7 +96,7 @@ TEST(Reglements, un_diplome_inconnu_laisse_l_adresse)
 {
     Poste_Essai essai;
     essai.etat.adresse_page = u"http://avant.test/"_s;
-    essai.etat.diplome = u"XYZ"_s;
+    essai.etat.station.diplome = Diplome_De(u"XYZ");
     Choisit_Reglement(essai.poste);
     EXPECT_EQ(essai.etat.adresse_page, u"http://avant.test/"_s);
 }
@@ -105,7 +105,7 @@ TEST(Reglements, sans_serveur_il_n_y_a_pas_d_adresse)
 {
     Poste_Essai essai;
     essai.etat.adresse_page = u"http://avant.test/"_s;
-    essai.etat.diplome = u"DFCF"_s;
+    essai.etat.station.diplome = Diplome::DFCF;
     Choisit_Reglement(essai.poste);
     EXPECT_EQ(essai.etat.adresse_page, u""_s);
 }

@@ -3,7 +3,7 @@
 #include "faux/Poste_Essai.h"
 #include "faux/QSO_Essai.h"
 #include "log/Catalogue.h"
-#include "log/Chemin_Log.h"
+#include "log/Etat_Commun.h"
 #include "plateforme/Erreur_Execution.h"
 
 #include <gtest/gtest.h>
@@ -32,7 +32,7 @@ QString Entree(const QString &ligne)
 void Pose_Logs(const Poste_Essai &essai)
 {
     for (const QStringView code : codes_diplome)
-        essai.fichiers.Pose(Chemin_Log(essai.etat, code), "");
+        essai.fichiers.Pose(essai.etat.station.Log(Diplome_De(code)), "");
 }
 
 const QString d_abc = QSO({.ind = u"F5ABC"_s, .ref = u"77001"_s});

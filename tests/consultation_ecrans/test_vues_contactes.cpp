@@ -8,7 +8,7 @@
 #include "faux/Poste_Essai.h"
 #include "faux/QSO_Essai.h"
 #include "log/Catalogue.h"
-#include "log/Chemin_Log.h"
+#include "log/Etat_Commun.h"
 
 #include <QComboBox>
 #include <QLabel>
@@ -53,7 +53,7 @@ TEST(Ecran_Aff_Contacte, se_remplit_a_l_ouverture_sans_choix_de_bande)
     Montre(ecran);
     EXPECT_EQ(ecran.objectName(), u"Aff_Contacte"_s);
     EXPECT_EQ(Trouve<QLabel>(ecran, u"Label3"_s)->text(), u"Liste alphanumérique des DFCF contacté(e)s"_s);
-    EXPECT_EQ(Trouve<QLabel>(ecran, u"Label2"_s)->text(), Entete_Contactes(u"DFCF").toString());
+    EXPECT_EQ(Trouve<QLabel>(ecran, u"Label2"_s)->text(), Entete_Contactes(Diplome::DFCF).toString());
     for (const QString &nom : {u"Label1"_s, u"Bande_A"_s, u"Affiche"_s})
         EXPECT_FALSE(Trouve(ecran, nom)->isVisible());
     EXPECT_EQ(Trouve<Liste_Fixe>(ecran, u"Liste_Acti_Contacte"_s)->Nombre(), 1);
@@ -106,7 +106,7 @@ TEST(Ecran_Toutes_Activites, entree_prepare_le_bouton_qui_montre_les_lignes)
 {
     Poste_Essai essai;
     for (const QStringView code : codes_diplome)
-        essai.fichiers.Pose(Chemin_Log(essai.etat, code), QSO({}).toLatin1());
+        essai.fichiers.Pose(essai.etat.station.Log(Diplome_De(code)), QSO({}).toLatin1());
     Affiche_Toutes_Activites ecran(essai.poste);
     Montre(ecran);
     EXPECT_EQ(ecran.windowTitle(), u"Liste des ativations contactées d'un activeur"_s);

@@ -10,13 +10,13 @@ namespace {
 struct Poste_Challenge : Poste_Essai {
     explicit Poste_Challenge(const QString &code = u"Ch_DFCF"_s)
     {
-        etat.diplome = code;
-        etat.annee_ch_dfcf = u"2017"_s;
-        etat.annee_ch_dmf = u"2019"_s;
+        etat.station.diplome = Diplome_De(code);
+        etat.station.annee_ch_dfcf = u"2017"_s;
+        etat.station.annee_ch_dmf = u"2019"_s;
     }
     [[nodiscard]] QString Log() const
     {
-        return etat.diplome == u"Ch_DMF"_s ? u"F9ZZY_Ch_DMF_2019.log"_s : u"F9ZZY_Ch_DFCF_2017.log"_s;
+        return etat.station.diplome == Diplome::Ch_DMF ? u"F9ZZY_Ch_DMF_2019.log"_s : u"F9ZZY_Ch_DFCF_2017.log"_s;
     }
     Etat_Fiche Fiche(const Lignes_Essai &lignes) { return Fiche_De(*this, fiche_ch_dfcf, Log(), lignes); }
     Etat_Liste Liste(const Lignes_Essai &lignes) { return Liste_De(*this, liste_ch_dfcf, Log(), lignes); }
@@ -88,7 +88,7 @@ TEST(Fiche_Ch_DFCF, le_diplome_courant_choisit_le_challenge_et_son_annee)
     Poste_Challenge essai(u"Ch_DMF"_s);
     EXPECT_EQ(essai.Fiche({Contact(u"77001A"_s)}).titre, u"Challenge DMF année 2019"_s);
     EXPECT_EQ(essai.Liste({}).entete, u"Challenge DMF 2019"_s);
-    essai.etat.annee_ch_dmf = u"2020"_s;
+    essai.etat.station.annee_ch_dmf = u"2020"_s;
     EXPECT_THROW(Charge_Fiche(essai.poste, fiche_ch_dfcf), Erreur_Execution);
 }
 
@@ -174,7 +174,7 @@ TEST(Liste_Ch_DFCF, l_annee_changee_depuis_est_celle_du_fichier)
 {
     Poste_Challenge essai;
     const Etat_Liste etat = essai.Liste({});
-    essai.etat.annee_ch_dfcf = u"2018"_s;
+    essai.etat.station.annee_ch_dfcf = u"2018"_s;
     Enregistre_Liste(essai.poste, liste_ch_dfcf, etat);
     EXPECT_TRUE(essai.fichiers.Octets(u"F9ZZY_Challenge_DFCF_2018_.txt"_s).contains("Challenge DFCF 2018\r\n"));
 }

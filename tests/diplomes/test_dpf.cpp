@@ -21,7 +21,7 @@ const QStringList un_par_province = {u"67"_s, u"24"_s, u"03"_s, u"14"_s, u"21"_s
 Etat_Commun Variante(const QString &genre, const QString &classe, const QString &mode = u"CW"_s)
 {
     Etat_Commun etat;
-    etat.indicatif = u"F9ZZY"_s;
+    etat.station.indicatif = u"F9ZZY"_s;
     etat.code_categorie = genre;
     etat.bande_liste = classe;
     etat.mode_liste = mode;

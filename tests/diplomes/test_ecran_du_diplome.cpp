@@ -21,11 +21,11 @@ TEST(Ecran_Du_Diplome, chaque_code_a_sa_fiche_ou_son_choix)
     };
     EXPECT_EQ(attendus.size(), codes_diplome.size());
     for (const QStringView code : codes_diplome)
-        EXPECT_EQ(Ecran_Du_Diplome(code), attendus.at(code.toString())) << code.toString().toStdString();
+        EXPECT_EQ(Ecran_Du_Diplome(Diplome_De(code)), attendus.at(code.toString())) << code.toString().toStdString();
 }
 
 TEST(Ecran_Du_Diplome, un_texte_qui_n_est_pas_un_code_n_ouvre_rien)
 {
     for (const QString &texte : {u""_s, u"dfcf"_s, u"DFCF "_s, u"DMF_HF"_s})
-        EXPECT_EQ(Ecran_Du_Diplome(texte), QString()) << texte.toStdString();
+        EXPECT_EQ(Ecran_Du_Diplome(Diplome_De(texte)), QString()) << texte.toStdString();
 }

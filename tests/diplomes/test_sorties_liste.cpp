@@ -117,7 +117,7 @@ TEST(Enregistre_Liste, un_nom_que_le_disque_refuse_est_l_echec_du_fichier)
 {
     Poste_DFCF essai;
     const Etat_Liste liste = essai.Liste();
-    essai.etat.indicatif = u"F9ZZY/P"_s;
+    essai.etat.station.indicatif = u"F9ZZY/P"_s;
     const QStringList avant = essai.fichiers.Fichiers();
     try {
         Enregistre_Liste(essai.poste, liste_dfcf, liste);

@@ -72,7 +72,7 @@ TEST_F(Challenge_A_L_Ecran, le_bouton_d_un_palier_ecrit_son_fichier)
 
 TEST_F(Challenge_A_L_Ecran, la_fiche_de_l_annee_ouvre_sa_liste)
 {
-    essai_.etat.diplome = u"Ch_DMF"_s;
+    essai_.etat.station.diplome = Diplome::Ch_DMF;
     essai_.fichiers.Pose(u"F9ZZY_Ch_DMF_2000.log"_s, (QSO({.ref = u"77001B"_s}) + fin_de_ligne).toLatin1());
     Ecran_Fiche ecran(essai_.poste, fiche_ch_dfcf);
     ecran.show();

@@ -52,7 +52,7 @@ TEST(Ecrans_Diplomes, le_menu_trouve_l_ecran_de_chaque_award_commun)
 {
     Station_Remplie station;
     for (const QString &code : Codes_Communs()) {
-        const QString nom = Ecran_Du_Diplome(code);
+        const QString nom = Ecran_Du_Diplome(Diplome_De(code));
         const std::unique_ptr<QWidget> ecran = station.Ouvre_Ecran(nom);
         ASSERT_NE(ecran, nullptr) << nom.toStdString();
         EXPECT_EQ(ecran->objectName(), nom);
@@ -65,7 +65,7 @@ TEST(Ecrans_Diplomes, chaque_fiche_montre_les_noms_de_sa_table)
     Station_Remplie station;
     for (const QString &code : Codes_Communs())
         for (const Fiche_Diplome *fiche : Fiches()) {
-            if (fiche->code != code)
+            if (Code(fiche->diplome) != code)
                 continue;
             const std::unique_ptr<QWidget> ecran = station.Ouvre_Ecran(fiche->ecran.toString());
             EXPECT_EQ(conduite::Trouve<QLabel>(*ecran, u"Label2"_s)->text(), ecran->windowTitle());

@@ -62,13 +62,13 @@ struct Poste_Essai {
 
     Poste_Essai()
     {
-        etat.indicatif = QStringLiteral("F9ZZY");
-        ecran.i_station = etat.indicatif;
+        etat.station.indicatif = QStringLiteral("F9ZZY");
+        ecran.i_station = etat.station.indicatif;
     }
     /// The award that is open, and that Dip_A shows.
     void Ouvre(const QString &code)
     {
-        etat.diplome = code;
+        etat.station.diplome = Diplome_De(code);
         ecran.dip_a = code;
     }
 };

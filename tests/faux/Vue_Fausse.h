@@ -131,7 +131,7 @@ struct Poste_Saisie : Poste_Essai {
     void Ouvre_Log(const QString &code, const QByteArray &octets = {})
     {
         fichiers.Pose(QStringLiteral("F9ZZY_") + code + QStringLiteral(".log"), octets);
-        etat.diplome = code;
+        etat.station.diplome = Diplome_De(code);
         vue.Ecrit(Controle::Dip_A, code);
         vue.Efface_Saisie();
         vue.liste = dossier.Lit_Lignes(QStringLiteral("F9ZZY_") + code + QStringLiteral(".log"));

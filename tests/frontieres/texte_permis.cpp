@@ -6,5 +6,5 @@ using namespace Qt::StringLiterals;
 
 QString Texte_Permis()
 {
-    return Type_Ref(u"FFF") + Refus_Ind(u"").value_or(u"été"_s);
+    return Type_Ref(Diplome::FFF) + Refus_Ind(u"").value_or(u"été"_s);
 }

@@ -2,6 +2,7 @@
 
 #include "Exige.h"
 
+#include "log/Diplome.h"
 #include "log/Ligne_Affichage.h"
 #include "log/Ligne_Log.h"
 #include "log/Migrations.h"
@@ -61,13 +62,13 @@ QString Sans_Reference(QStringView ligne)
     return ligne.first(colonnes_log::Ref.colonne - 1) + ligne.sliced(colonnes_log::Date.colonne - 1);
 }
 
-void Verifie_Migration(const Lignes_Texte &avant, QStringView code)
+void Verifie_Migration(const Lignes_Texte &avant, Diplome diplome)
 {
     const auto conversion = [](QStringView ancienne) -> std::optional<QString> {
         return ancienne.endsWith(u'9') ? std::optional(ancienne.sliced(2).toString()) : std::nullopt;
     };
-    const std::optional<Log_Migre> migre = Migre(code, avant, conversion);
-    Exige(!migre || code != u"DFCF", "a log without older forms stays");
+    const std::optional<Log_Migre> migre = Migre(diplome, avant, conversion);
+    Exige(!migre || diplome != Diplome::DFCF, "a log without older forms stays");
     if (!migre)
         return;
     const Lignes_Texte apres(migre->texte);
@@ -89,7 +90,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *octets, std::size_t ta
     Verifie_Coupe(lignes, log);
     for (const QStringView ligne : lignes)
         Verifie_Ligne(ligne);
-    for (const QStringView code : {u"DFCF", u"DOHF", u"TDC", u"DCPF", u"FFF"})
-        Verifie_Migration(lignes, code);
+    for (const Diplome diplome : {Diplome::DFCF, Diplome::DOHF, Diplome::TDC, Diplome::DCPF, Diplome::FFF})
+        Verifie_Migration(lignes, diplome);
     return 0;
 }

@@ -6,6 +6,7 @@
 #include "listes/Index_Liste.h"
 #include "listes/References.h"
 #include "listes/Table_Recherches.h"
+#include "log/Diplome.h"
 #include "plateforme/Erreur_Execution.h"
 #include "plateforme/Windows_1252.h"
 
@@ -45,10 +46,11 @@ void Verifie_Index(const Dossier &dossier, const Lignes_Texte &liste, const std:
     }
 }
 
-void Verifie_Vue(const Dossier &dossier, const Lignes_Texte &liste, const QString &code)
+void Verifie_Vue(const Dossier &dossier, const Lignes_Texte &liste, Diplome diplome)
 {
     try {
-        Exige(Lit_References(dossier, code).entrees.size() <= liste.size(), "at most one entry a line", code);
+        Exige(Lit_References(dossier, diplome).entrees.size() <= liste.size(), "at most one entry a line",
+              Code(diplome).toString());
     } catch (const Erreur_Execution &) {
         // A line with too few separators is told to the operator.
     }
@@ -72,7 +74,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *octets, std::size_t ta
         essai.fichiers.Pose(recherche->lecture.fichier.toString(), reste);
     const Lignes_Texte liste(Decode_1252(reste));
     Verifie_Index(essai.dossier, liste, {premiere, seconde, premiere});
-    for (const QString &code : {u"DCF"_s, u"DPLF"_s})
-        Verifie_Vue(essai.dossier, liste, code);
+    for (const Diplome diplome : {Diplome::DCF, Diplome::DPLF})
+        Verifie_Vue(essai.dossier, liste, diplome);
     return 0;
 }

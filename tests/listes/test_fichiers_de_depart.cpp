@@ -52,8 +52,8 @@ TEST_F(Depart, une_reference_inconnue_a_ses_textes_de_repli)
     EXPECT_EQ(Cherche_DFCF(essai.dossier, u"77001"), u"C."_s);
     EXPECT_EQ(Cherche_Ouvrage(essai.dossier, u"45EC102"), (Reference_Trouvee{u"EC"_s, u"45"_s}));
     EXPECT_EQ(Cherche_TDC(essai.dossier, essai.boites, u"11-008"), Reference_Trouvee{});
-    EXPECT_TRUE(Lit_References(essai.dossier, u"DPLF").entrees.empty());
-    EXPECT_EQ(Lit_References(essai.dossier, u"DCF").entrees.size(), 1U) << "the first line is an entry too";
+    EXPECT_TRUE(Lit_References(essai.dossier, Diplome::DPLF).entrees.empty());
+    EXPECT_EQ(Lit_References(essai.dossier, Diplome::DCF).entrees.size(), 1U) << "the first line is an entry too";
 }
 
 TEST_F(Depart, les_en_tetes_ont_les_separateurs_des_lecteurs_les_plus_exigeants)

@@ -116,7 +116,7 @@ TEST_F(Mise_A_Jour, la_revision_est_retenue_par_station)
 {
     Sert(u"http://vorlain.test/Vorlain_TDC/Liste_TDC.csv"_s, "Rev 012 01/01/20;\r\n");
     Maj_Liste(essai.poste, Ligne(u"Mnu_Maj_TDC"_s));
-    essai.etat.indicatif = u"F1ABC_P"_s;
+    essai.etat.station.indicatif = u"F1ABC_P"_s;
     Messages();
     Maj_Liste(essai.poste, Ligne(u"Mnu_Maj_TDC"_s));
     EXPECT_EQ(Messages(), std::vector{u"La liste des tours à été mise à jour Rev 012 01/01/20"_s});

@@ -15,7 +15,7 @@ namespace {
 const Maj_Nom &Ligne(const QString &code)
 {
     for (const Maj_Nom &maj : Majs_Nom())
-        if (maj.code == code)
+        if (Code(maj.diplome) == code)
             return maj;
     throw std::runtime_error("no such entry");
 }
@@ -148,8 +148,8 @@ TEST_F(Rafraichissement, un_autre_diplome_est_refuse)
 TEST_F(Rafraichissement, un_log_vide_reste_vide_et_finit_comme_les_autres)
 {
     for (const Maj_Nom &maj : Majs_Nom()) {
-        Pose_Log(maj.code.toString(), {});
-        EXPECT_EQ(Apres(maj.code.toString()), "");
+        Pose_Log(Code(maj.diplome).toString(), {});
+        EXPECT_EQ(Apres(Code(maj.diplome).toString()), "");
         EXPECT_EQ(essai.boites.messages.back(), maj.cloture.toString());
     }
 }
@@ -282,7 +282,7 @@ TEST_F(Rafraichissement, donne_ce_qu_un_balayage_par_ligne_donne)
     int refuses = 0;
     for (int tour = 0; tour < 80; ++tour) {
         for (const Maj_Nom &maj : Majs_Nom()) {
-            const QString code = maj.code.toString();
+            const QString code = Code(maj.diplome).toString();
             essai.fichiers.Pose(maj.recherche->lecture.fichier.toString(),
                                 Encode_1252(Une_Liste(hasard, code == u"DPLF")));
             const Lignes_Texte log(Un_Log(hasard));

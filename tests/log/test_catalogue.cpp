@@ -21,11 +21,9 @@ QString Ou_Inchange(std::optional<QStringView> texte)
 QString Habillages()
 {
     QString texte;
-    for (const QStringView code : codes_diplome) {
-        const Habillage *habillage = Habillage_De(code);
-        if (!habillage)
-            continue;
-        const QStringList champs{habillage->code.toString(),    habillage->frame3.toString(),
+    for (const Diplome diplome : tous_les_diplomes) {
+        const Habillage *habillage = &Habillage_De(diplome);
+        const QStringList champs{Code(diplome).toString(),      habillage->frame3.toString(),
                                  habillage->detail.toString(),  Ou_Inchange(habillage->detail_1),
                                  Ou_Inchange(habillage->nom_l), habillage->label1.toString().replace(u'\n', u"\\n"_s),
                                  habillage->type_ref.toString()};
@@ -59,17 +57,15 @@ TEST(Catalogue, les_listes_fixes_sont_dans_leur_ordre)
 TEST(Catalogue, un_texte_qui_n_est_pas_un_code)
 {
     for (const QStringView texte : {u""_s, u"dfcf"_s, u"DFCF "_s, u"DXCC"_s}) {
-        EXPECT_EQ(Habillage_De(texte), nullptr);
-        EXPECT_FALSE(Est_Code_Diplome(texte));
-        EXPECT_EQ(Type_Ref(texte), texte);
+        EXPECT_FALSE(Diplome_De(texte));
     }
-    EXPECT_TRUE(Est_Code_Diplome(u"DFCF"));
+    EXPECT_TRUE(Diplome_De(u"DFCF").has_value());
 }
 
 TEST(Catalogue, les_deux_challenges_ont_une_annee)
 {
     for (const QStringView code : codes_diplome)
-        EXPECT_EQ(Est_Challenge(code), code.startsWith(u"Ch_"));
+        EXPECT_EQ(Est_Challenge(Diplome_De(code)), code.startsWith(u"Ch_"));
 }
 
 TEST(Historique, chaque_version_derriere_un_saut_de_ligne)

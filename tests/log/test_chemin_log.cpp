@@ -10,30 +10,30 @@ using namespace Qt::StringLiterals;
 TEST(Chemin_Log, un_diplome_a_un_log_par_indicatif)
 {
     Etat_Commun etat;
-    etat.indicatif = u"F9ZZY_P"_s;
+    etat.station.indicatif = u"F9ZZY_P"_s;
     for (const QStringView code : codes_diplome)
-        if (!Est_Challenge(code)) {
-            EXPECT_EQ(Chemin_Log(etat, code), u"F9ZZY_P_"_s + code + u".log");
+        if (!Est_Challenge(Diplome_De(code))) {
+            EXPECT_EQ(etat.station.Log(Diplome_De(code)), u"F9ZZY_P_"_s + code + u".log");
         }
 }
 
 TEST(Chemin_Log, un_challenge_a_le_log_de_son_annee)
 {
     Etat_Commun etat;
-    etat.indicatif = u"F9ZZY"_s;
-    etat.annee_ch_dfcf = u"2026"_s;
-    etat.annee_ch_dmf = u"2025"_s;
-    EXPECT_EQ(Chemin_Log(etat, u"Ch_DFCF"), u"F9ZZY_Ch_DFCF_2026.log"_s);
-    EXPECT_EQ(Chemin_Log(etat, u"Ch_DMF"), u"F9ZZY_Ch_DMF_2025.log"_s);
+    etat.station.indicatif = u"F9ZZY"_s;
+    etat.station.annee_ch_dfcf = u"2026"_s;
+    etat.station.annee_ch_dmf = u"2025"_s;
+    EXPECT_EQ(etat.station.Log(Diplome::Ch_DFCF), u"F9ZZY_Ch_DFCF_2026.log"_s);
+    EXPECT_EQ(etat.station.Log(Diplome::Ch_DMF), u"F9ZZY_Ch_DMF_2025.log"_s);
 }
 
 TEST(Chemin_Log, une_annee_non_choisie_est_2000)
 {
-    EXPECT_EQ(Chemin_Log(Etat_Commun(), u"Ch_DFCF"), u"FXXXX_Ch_DFCF_2000.log"_s);
+    EXPECT_EQ(Etat_Commun().station.Log(Diplome::Ch_DFCF), u"FXXXX_Ch_DFCF_2000.log"_s);
 }
 
 TEST(Chemin_Log, sans_annee_pour_tous_les_codes)
 {
-    EXPECT_EQ(Chemin_Log_Sans_Annee(u"F9ZZY", u"Ch_DFCF"), u"F9ZZY_Ch_DFCF.log"_s);
-    EXPECT_EQ(Chemin_Log_Sans_Annee(u"F9ZZY", u"DFCF"), u"F9ZZY_DFCF.log"_s);
+    EXPECT_EQ(Chemin_Log(u"F9ZZY", Diplome::Ch_DFCF), u"F9ZZY_Ch_DFCF.log"_s);
+    EXPECT_EQ(Chemin_Log(u"F9ZZY", Diplome::DFCF), u"F9ZZY_DFCF.log"_s);
 }

@@ -45,14 +45,14 @@ protected:
 
 TEST_F(Ecritures, ajoute_a_la_fin)
 {
-    Ajoute_Ligne(essai.poste, nouvelle, u"DFCF");
+    Ajoute_Ligne(essai.poste, nouvelle, Diplome::DFCF);
     Attend_Log(u"ajoute.log"_s);
 }
 
 TEST_F(Ecritures, ajoute_au_log_du_code_et_non_du_diplome_courant)
 {
     essai.Ouvre(u"DMF"_s);
-    Ajoute_Ligne(essai.poste, nouvelle, u"DFCF");
+    Ajoute_Ligne(essai.poste, nouvelle, Diplome::DFCF);
     Attend_Log(u"ajoute.log"_s);
 }
 
@@ -83,21 +83,21 @@ TEST_F(Ecritures, remplace_et_insere_dans_le_log_du_diplome_courant)
 
 TEST_F(Ecritures, supprime_la_premiere_des_lignes_egales)
 {
-    Supprime_Ligne(essai.poste, Ligne(1), u"DFCF");
+    Supprime_Ligne(essai.poste, Ligne(1), Diplome::DFCF);
     Attend_Log(u"supprime.log"_s);
 }
 
 TEST_F(Ecritures, supprime_dans_le_log_du_code)
 {
     essai.Ouvre(u"DMF"_s);
-    Supprime_Ligne(essai.poste, Ligne(1), u"DFCF");
+    Supprime_Ligne(essai.poste, Ligne(1), Diplome::DFCF);
     Attend_Log(u"supprime.log"_s);
 }
 
 TEST_F(Ecritures, supprime_une_ligne_disparue_ne_change_rien_recharge_la_liste_et_le_dit)
 {
     essai.ecran.liste = Lignes_Texte(Texte_Log({QSO({.ref = u"99999"_s})}));
-    Supprime_Ligne(essai.poste, QSO({.ref = u"99999"_s}), u"DFCF");
+    Supprime_Ligne(essai.poste, QSO({.ref = u"99999"_s}), Diplome::DFCF);
     EXPECT_EQ(essai.fichiers.Octets(journal), Donnee(u"journal.log"_s));
     EXPECT_EQ(essai.ecran.liste.size(), essai.dossier.Lit_Lignes(journal).size());
     EXPECT_EQ(essai.boites.messages, std::vector<QString>{u"Ce QSO n'est plus dans le log, rien n'a été supprimé"_s});
@@ -110,7 +110,7 @@ TEST_F(Ecritures, une_ligne_sans_ses_derniers_blancs_ou_trop_longue_se_supprime_
     const QByteArray abimees = deborde.toLatin1() + "\r\n" + ligne.first(89).toLatin1() + "\r\n";
     for (const QByteArray &autre : {QByteArray(), QByteArray("court\r\n")}) {
         essai.fichiers.Pose(journal, autre + abimees);
-        Supprime_Ligne(essai.poste, ligne, u"DFCF");
+        Supprime_Ligne(essai.poste, ligne, Diplome::DFCF);
         EXPECT_EQ(essai.fichiers.Octets(journal), autre + ligne.first(89).toLatin1() + "\r\n");
         Remplace_Ligne(essai.poste, nouvelle, ligne);
         EXPECT_EQ(essai.fichiers.Octets(journal), autre + nouvelle.toLatin1() + "\r\n");
@@ -126,7 +126,7 @@ TEST_F(Ecritures, les_autres_lignes_gardent_leurs_octets)
     essai.fichiers.Pose(journal, deborde + visee.toLatin1() + "\r\n" + courte);
     Remplace_Ligne(essai.poste, nouvelle, visee);
     EXPECT_EQ(essai.fichiers.Octets(journal), deborde + nouvelle.toLatin1() + "\r\n" + courte);
-    Supprime_Ligne(essai.poste, nouvelle, u"DFCF");
+    Supprime_Ligne(essai.poste, nouvelle, Diplome::DFCF);
     EXPECT_EQ(essai.fichiers.Octets(journal), deborde + courte);
 }
 
@@ -134,15 +134,15 @@ TEST_F(Ecritures, une_tour_montree_sans_ses_blancs_de_devant_se_supprime)
 {
     essai.Ouvre(u"TDC"_s);
     essai.fichiers.Pose(u"F9ZZY_TDC.log"_s, Texte_Log({QSO({.ref = u" 11-008"_s})}).toLatin1());
-    Charge_Log(essai.poste, u"TDC");
-    Supprime_Ligne(essai.poste, Ligne_Log_Affichee(Ligne_Affichage(1, essai.ecran.liste[0])), u"TDC");
+    Charge_Log(essai.poste, Diplome::TDC);
+    Supprime_Ligne(essai.poste, Ligne_Log_Affichee(Ligne_Affichage(1, essai.ecran.liste[0])), Diplome::TDC);
     EXPECT_EQ(essai.fichiers.Octets(u"F9ZZY_TDC.log"_s), "");
 }
 
 TEST_F(Ecritures, supprime_la_derniere_ligne_laisse_un_log_vide)
 {
     essai.fichiers.Pose(journal, Texte_Log({nouvelle}).toLatin1());
-    Supprime_Ligne(essai.poste, nouvelle, u"DFCF");
+    Supprime_Ligne(essai.poste, nouvelle, Diplome::DFCF);
     EXPECT_EQ(essai.fichiers.Octets(journal), "");
     EXPECT_TRUE(essai.ecran.liste.empty());
     EXPECT_EQ(essai.ecran.selection, QString());
@@ -176,7 +176,7 @@ TEST_F(Ecritures, un_temporaire_d_une_panne_ne_gene_pas)
 {
     essai.fichiers.Pose(u"Temporaire.txt"_s, "reste");
     essai.fichiers.Pose(u"Temporaire6.txt"_s, "reste");
-    Supprime_Ligne(essai.poste, Ligne(1), u"DFCF");
+    Supprime_Ligne(essai.poste, Ligne(1), Diplome::DFCF);
     Insere_Ligne(essai.poste, nouvelle);
     EXPECT_EQ(essai.fichiers.Fichiers(), QStringList{journal});
 }
@@ -186,7 +186,7 @@ TEST_F(Ecritures, chaque_reecriture_a_son_temporaire)
     // A folder in a temporary's place lets its operation fail, and no other.
     ASSERT_TRUE(QDir(essai.fichiers.Chemin()).mkdir(u"Temporaire.txt"_s));
     EXPECT_TRUE(Echec([&] { Remplace_Ligne(essai.poste, nouvelle, Ligne(0)); }));
-    EXPECT_TRUE(Echec([&] { Supprime_Ligne(essai.poste, Ligne(0), u"DFCF"); }));
+    EXPECT_TRUE(Echec([&] { Supprime_Ligne(essai.poste, Ligne(0), Diplome::DFCF); }));
     EXPECT_EQ(essai.fichiers.Octets(journal), Donnee(u"journal.log"_s));
     EXPECT_FALSE(Echec([&] { Insere_Ligne(essai.poste, nouvelle); }));
     ASSERT_TRUE(QDir(essai.fichiers.Chemin()).mkdir(u"Temporaire6.txt"_s));
@@ -198,7 +198,7 @@ TEST_F(Ecritures, un_log_absent_est_dit_et_reste_absent)
     essai.Ouvre(u"DMF"_s);
     for (const auto &etape : std::vector<std::function<void()>>{
              [&] { Remplace_Ligne(essai.poste, nouvelle, nouvelle); }, [&] { Insere_Ligne(essai.poste, nouvelle); },
-             [&] { Supprime_Ligne(essai.poste, nouvelle, u"DMF"); }})
+             [&] { Supprime_Ligne(essai.poste, nouvelle, Diplome::DMF); }})
         EXPECT_EQ(Echec(etape)->La_Cause(), Cause::Fichier_Introuvable);
     EXPECT_FALSE(essai.fichiers.Existe(u"F9ZZY_DMF.log"_s));
 }
@@ -208,9 +208,9 @@ TEST_F(Ecritures, un_log_qui_est_un_repertoire_est_dit)
     essai.Ouvre(u"DMF"_s);
     ASSERT_TRUE(QDir(essai.fichiers.Chemin()).mkdir(u"F9ZZY_DMF.log"_s));
     for (const auto &etape : std::vector<std::function<void()>>{
-             [&] { Ajoute_Ligne(essai.poste, nouvelle, u"DMF"); },
+             [&] { Ajoute_Ligne(essai.poste, nouvelle, Diplome::DMF); },
              [&] { Remplace_Ligne(essai.poste, nouvelle, nouvelle); }, [&] { Insere_Ligne(essai.poste, nouvelle); },
-             [&] { Supprime_Ligne(essai.poste, nouvelle, u"DMF"); }}) {
+             [&] { Supprime_Ligne(essai.poste, nouvelle, Diplome::DMF); }}) {
         const auto echec = Echec(etape);
         ASSERT_TRUE(echec);
         EXPECT_TRUE(echec->Texte().contains(u"F9ZZY_DMF.log (c'est un répertoire)")) << echec->Texte().toStdString();

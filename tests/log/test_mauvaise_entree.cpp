@@ -49,7 +49,7 @@ protected:
 
 TEST_F(Mauvaise_Entree, charger_ne_change_pas_un_octet)
 {
-    Charge_Log(essai.poste, u"DFCF");
+    Charge_Log(essai.poste, Diplome::DFCF);
     EXPECT_EQ(essai.fichiers.Octets(journal), Log_Malmene(bonne));
     ASSERT_EQ(essai.ecran.liste.size(), Lignes().size());
     for (std::size_t rang = 0; rang < essai.ecran.liste.size(); ++rang)
@@ -58,7 +58,7 @@ TEST_F(Mauvaise_Entree, charger_ne_change_pas_un_octet)
 
 TEST_F(Mauvaise_Entree, ajouter_garde_tous_les_octets)
 {
-    Ajoute_Ligne(essai.poste, nouvelle, u"DFCF");
+    Ajoute_Ligne(essai.poste, nouvelle, Diplome::DFCF);
     EXPECT_EQ(essai.fichiers.Octets(journal), Log_Malmene(bonne) + "\r\n" + nouvelle.toLatin1() + "\r\n");
 }
 
@@ -78,34 +78,34 @@ TEST_F(Mauvaise_Entree, remplacer_supprimer_inserer_gardent_les_autres_lignes)
     EXPECT_EQ(Lignes(), attendues);
 
     std::erase(attendues, nouvelle);
-    Supprime_Ligne(essai.poste, nouvelle, u"DFCF");
+    Supprime_Ligne(essai.poste, nouvelle, Diplome::DFCF);
     EXPECT_EQ(Lignes(), attendues);
 }
 
 TEST_F(Mauvaise_Entree, les_recherches_passent_sur_les_lignes_abimees)
 {
-    EXPECT_EQ(Cherche_Ref(essai.poste, u"DFCF", u"77001").date, u"12/05/07"_s);
+    EXPECT_EQ(Cherche_Ref(essai.poste, Diplome::DFCF, u"77001").date, u"12/05/07"_s);
     EXPECT_TRUE(Cherche_Dpt_Bande_Mode(essai.poste, u"77", u"14 Mhz", u"SSB").oui);
 }
 
 TEST_F(Mauvaise_Entree, un_log_sans_cr_et_sans_derniere_fin_est_lu_entier)
 {
     Pose(bonne.toLatin1() + "\n" + nouvelle.toLatin1());
-    Charge_Log(essai.poste, u"DFCF");
+    Charge_Log(essai.poste, Diplome::DFCF);
     EXPECT_EQ(En_Lignes(Texte_Log({bonne, nouvelle})), Lignes());
-    Ajoute_Ligne(essai.poste, bonne, u"DFCF");
+    Ajoute_Ligne(essai.poste, bonne, Diplome::DFCF);
     EXPECT_EQ(Lignes(), (std::vector<QString>{bonne, nouvelle, bonne}));
 }
 
 TEST_F(Mauvaise_Entree, tous_les_diplomes_chargent_des_octets_quelconques)
 {
     essai.fichiers.Pose(u"Liste_TDC.csv"_s, "");
-    essai.etat.annee_ch_dfcf = essai.etat.annee_ch_dmf = u"2026"_s;
+    essai.etat.station.annee_ch_dfcf = essai.etat.station.annee_ch_dmf = u"2026"_s;
     const QByteArray octets = Log_Malmene(bonne) + "\r\n" + Log_Malmene(QSO({.dpt = u"45"_s, .ref = u"TC102"_s}));
     for (const QStringView code : codes_diplome) {
-        const QString nom = u"F9ZZY_" + code + (Est_Challenge(code) ? u"_2026.log" : u".log");
+        const QString nom = u"F9ZZY_" + code + (Est_Challenge(Diplome_De(code)) ? u"_2026.log" : u".log");
         essai.fichiers.Pose(nom, octets);
-        EXPECT_FALSE(Echec([&] { Charge_Log(essai.poste, code); })) << code.toString().toStdString();
+        EXPECT_FALSE(Echec([&] { Charge_Log(essai.poste, Diplome_De(code)); })) << code.toString().toStdString();
         EXPECT_EQ(essai.dossier.Lit_Lignes(nom).size(), Lignes_Texte(Decode_1252(octets)).size());
     }
 }
@@ -113,9 +113,9 @@ TEST_F(Mauvaise_Entree, tous_les_diplomes_chargent_des_octets_quelconques)
 TEST_F(Mauvaise_Entree, un_log_qui_est_un_repertoire_laisse_une_liste_vide)
 {
     essai.fichiers.Pose(u"F9ZZY_DMF.log"_s, Texte_Log({bonne}).toLatin1());
-    Charge_Log(essai.poste, u"DMF");
+    Charge_Log(essai.poste, Diplome::DMF);
     ASSERT_TRUE(QDir(essai.fichiers.Chemin()).mkdir(u"F9ZZY_DLF.log"_s));
-    const auto echec = Echec([&] { Charge_Log(essai.poste, u"DLF"); });
+    const auto echec = Echec([&] { Charge_Log(essai.poste, Diplome::DLF); });
     ASSERT_TRUE(echec);
     EXPECT_EQ(echec->Texte(), essai.fichiers.Chemin(u"F9ZZY_DLF.log"_s) + u" (c'est un répertoire)");
     EXPECT_TRUE(essai.ecran.liste.empty());

@@ -15,7 +15,7 @@ const Conversion_TDC sans_liste = [](QStringView) -> std::optional<QString> { re
 std::optional<QString> Migre_Lignes(QStringView code, const std::vector<QString> &lignes,
                                     const Conversion_TDC &conversion = sans_liste)
 {
-    const std::optional<Log_Migre> migre = Migre(code, Lignes_Texte(Texte_Log(lignes)), conversion);
+    const std::optional<Log_Migre> migre = Migre(Diplome_De(code), Lignes_Texte(Texte_Log(lignes)), conversion);
     return migre && migre->a_reecrire ? std::optional(migre->texte) : std::nullopt;
 }
 
@@ -54,7 +54,7 @@ TEST(Migrations_DOHF, un_departement_en_blanc_reste_en_blanc)
     const auto texte = Migre_Lignes(u"DOHF", {QSO({.ref = u"EC102"_s})});
     ASSERT_TRUE(texte);
     EXPECT_EQ(Lit(*texte, colonnes_log::Ref), u"  EC102   ");
-    EXPECT_FALSE(Migre(u"DOHF", Lignes_Texte(*texte), sans_liste));
+    EXPECT_FALSE(Migre(Diplome::DOHF, Lignes_Texte(*texte), sans_liste));
 }
 
 TEST(Migrations_TDC, le_tiret_et_les_zeros_viennent)
@@ -72,7 +72,7 @@ TEST(Migrations_TDC, une_autre_longueur_reste)
 
 TEST(Migrations_TDC, les_blancs_de_devant_s_en_vont_de_la_liste_mais_pas_du_fichier)
 {
-    const auto migre = Migre(u"TDC", Lignes_Texte(Texte_Log({QSO({.ref = u"  11-008"_s}), QSO({})})), sans_liste);
+    const auto migre = Migre(Diplome::TDC, Lignes_Texte(Texte_Log({QSO({.ref = u"  11-008"_s}), QSO({})})), sans_liste);
     ASSERT_TRUE(migre);
     EXPECT_EQ(migre->texte, Texte_Log({QSO({.ref = u"11-008"_s}), QSO({})}));
     EXPECT_FALSE(migre->a_reecrire);
@@ -188,6 +188,6 @@ TEST(Migrations, une_seconde_fois_ne_change_rien)
                                     std::pair(u"DCPF"_s, u"PTC001"_s), std::pair(u"FFF"_s, u"51"_s)}) {
         const auto texte = Migre_Lignes(code, {QSO({.dpt = u"81"_s, .ref = ref})});
         ASSERT_TRUE(texte);
-        EXPECT_FALSE(Migre(code, Lignes_Texte(*texte), sans_liste)) << code.toStdString();
+        EXPECT_FALSE(Migre(Diplome_De(code), Lignes_Texte(*texte), sans_liste)) << code.toStdString();
     }
 }

@@ -130,7 +130,7 @@ TEST(Proprietes, migrer_ne_touche_que_la_reference)
         std::vector<QString> lignes = hasard.Log(200);
         for (QString &ligne : lignes)
             ligne.replace(34, 10, Complete(anciennes[static_cast<std::size_t>(hasard.Nombre(7))], 10));
-        const auto texte = Migre(code, Lignes_Texte(Texte_Log(lignes)), liste);
+        const auto texte = Migre(Diplome_De(code), Lignes_Texte(Texte_Log(lignes)), liste);
         ASSERT_TRUE(texte);
         ASSERT_TRUE(texte->a_reecrire);
         std::vector<QString> migrees = En_Lignes(texte->texte);

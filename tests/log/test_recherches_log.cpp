@@ -54,8 +54,9 @@ TEST(Recherches_Log, chacune_lit_son_log)
     essai.Ouvre(u"DDFM"_s);
     essai.fichiers.Pose(u"F9ZZY_DDFM.log"_s, journal.toLatin1());
     essai.fichiers.Pose(u"F9ZZY_DFCF.log"_s, Texte_Log({QSO({.ref = u"63087"_s})}).toLatin1());
-    EXPECT_TRUE(Cherche_Ref(essai.poste, u"DFCF", u"63087").oui);
-    EXPECT_FALSE(Cherche_Ref(essai.poste, u"DFCF", u"77001").oui);
+    EXPECT_TRUE(Cherche_Ref(essai.poste, Diplome::DFCF, u"63087").oui);
+    EXPECT_FALSE(Cherche_Ref(essai.poste, Diplome::DFCF, u"77001").oui);
     EXPECT_TRUE(Cherche_Dpt_Bande_Mode(essai.poste, u"77", u"14 Mhz", u"SSB").oui);
-    EXPECT_EQ(Echec([&] { (void)Cherche_Ref(essai.poste, u"DMF", u"77001"); })->La_Cause(), Cause::Fichier_Introuvable);
+    EXPECT_EQ(Echec([&] { (void)Cherche_Ref(essai.poste, Diplome::DMF, u"77001"); })->La_Cause(),
+              Cause::Fichier_Introuvable);
 }

@@ -18,7 +18,7 @@ TEST(Reglages_Station, chaque_station_a_les_siens)
     Ecrit_Station(essai.poste, cles::bande_utilisee, u"4"_s);
     EXPECT_EQ(essai.reglages.vorlain.at({u"Setup F9ZZY"_s, u"bande Utilisee"_s}), u"4"_s);
     EXPECT_EQ(Lit_Station(essai.poste, cles::bande_utilisee, u"0"), u"4"_s);
-    essai.etat.indicatif = u"F9ZZX"_s;
+    essai.etat.station.indicatif = u"F9ZZX"_s;
     EXPECT_EQ(Lit_Station(essai.poste, cles::bande_utilisee, u"0"), u"0"_s);
 }
 
@@ -34,11 +34,11 @@ TEST(Reglages_Station, les_reglages_communs_sont_a_part)
 TEST(Reglages_Station, les_annees_de_challenge_de_la_station)
 {
     Poste_Essai essai;
-    essai.etat.annee_ch_dfcf = u"1999"_s;
+    essai.etat.station.annee_ch_dfcf = u"1999"_s;
     essai.reglages.vorlain[{u"Setup F9ZZY"_s, u"Annee Challenge DMF"_s}] = u"2026"_s;
     Lit_Annees_Challenge(essai.poste);
-    EXPECT_EQ(essai.etat.annee_ch_dmf, u"2026"_s);
-    EXPECT_EQ(essai.etat.annee_ch_dfcf, u"2000"_s);
+    EXPECT_EQ(essai.etat.station.annee_ch_dmf, u"2026"_s);
+    EXPECT_EQ(essai.etat.station.annee_ch_dfcf, u"2000"_s);
 }
 
 TEST(Cles, les_noms_et_les_defauts_du_magasin)

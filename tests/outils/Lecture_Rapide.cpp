@@ -11,7 +11,7 @@ lente::Essai Importe(const std::string &octets, const std::string &code, bool mu
     lente::Essai essai;
     const Lignes_Texte lignes(Majuscules_1252(Decode_1252(QByteArrayView(octets.data(), qsizetype(octets.size())))));
     Enregistrements_ADIF enregistrements(lignes);
-    Lignes_ADIF convertit(QString::fromStdString(code), {.multi = multi});
+    Lignes_ADIF convertit(Diplome_De(QString::fromStdString(code)), {.multi = multi});
     while (const auto enregistrement = enregistrements.Suivant()) {
         const Lecture_ADIF lecture = convertit.Lit(*enregistrement);
         for (const QStringView message : lecture.messages)

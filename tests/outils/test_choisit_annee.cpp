@@ -15,7 +15,7 @@ struct Choix_Annee : ::testing::Test {
     void SetUp() override
     {
         essai.Ouvre(u"Ch_DFCF"_s);
-        essai.etat.genre_challenge = u"DFCF"_s;
+        essai.etat.challenge = Diplome::Ch_DFCF;
     }
     [[nodiscard]] QString Reglage(const QString &cle) const
     {
@@ -37,8 +37,8 @@ TEST_F(Choix_Annee, une_annee_sans_log_en_cree_un_vide_et_vide_la_liste)
 TEST_F(Choix_Annee, l_annee_va_dans_l_etat_commun_et_dans_les_reglages_de_la_station)
 {
     EXPECT_TRUE(Choisit_Annee(essai.poste, u"2017"_s));
-    EXPECT_EQ(essai.etat.annee_ch_dfcf, u"2017"_s);
-    EXPECT_EQ(essai.etat.annee_ch_dmf, u"2000"_s);
+    EXPECT_EQ(essai.etat.station.annee_ch_dfcf, u"2017"_s);
+    EXPECT_EQ(essai.etat.station.annee_ch_dmf, u"2000"_s);
     EXPECT_EQ(Reglage(u"Annee Challenge DFCF"_s), u"2017"_s);
     EXPECT_EQ(Reglage(u"Annee Challenge DMF"_s), u"absent"_s);
     EXPECT_EQ(Annee_Challenge(essai.poste), u"2017"_s);
@@ -46,10 +46,10 @@ TEST_F(Choix_Annee, l_annee_va_dans_l_etat_commun_et_dans_les_reglages_de_la_sta
 
 TEST_F(Choix_Annee, le_challenge_dmf_a_son_annee_et_son_log)
 {
-    essai.etat.genre_challenge = u"DMF"_s;
+    essai.etat.challenge = Diplome::Ch_DMF;
     EXPECT_TRUE(Choisit_Annee(essai.poste, u"2018"_s));
-    EXPECT_EQ(essai.etat.annee_ch_dmf, u"2018"_s);
-    EXPECT_EQ(essai.etat.annee_ch_dfcf, u"2000"_s);
+    EXPECT_EQ(essai.etat.station.annee_ch_dmf, u"2018"_s);
+    EXPECT_EQ(essai.etat.station.annee_ch_dfcf, u"2000"_s);
     EXPECT_EQ(Reglage(u"Annee Challenge DMF"_s), u"2018"_s);
     EXPECT_TRUE(essai.fichiers.Existe(u"F9ZZY_Ch_DMF_2018.log"_s));
 }
@@ -83,7 +83,7 @@ TEST_F(Choix_Annee, tout_autre_texte_est_une_annee)
 {
     for (const QString &annee : {u"17"_s, u""_s, u" 2017 "_s, u"année.1"_s}) {
         EXPECT_TRUE(Choisit_Annee(essai.poste, annee));
-        EXPECT_EQ(essai.etat.annee_ch_dfcf, annee);
+        EXPECT_EQ(essai.etat.station.annee_ch_dfcf, annee);
         EXPECT_TRUE(essai.fichiers.Existe(u"F9ZZY_Ch_DFCF_"_s + annee + u".log"));
     }
 }
@@ -94,7 +94,7 @@ TEST_F(Choix_Annee, une_annee_qui_sortirait_du_dossier_est_refusee)
         essai.boites.messages.clear();
         EXPECT_FALSE(Choisit_Annee(essai.poste, annee));
         EXPECT_EQ(essai.boites.messages, std::vector{u"Année incorrecte"_s});
-        EXPECT_EQ(essai.etat.annee_ch_dfcf, u"2000"_s);
+        EXPECT_EQ(essai.etat.station.annee_ch_dfcf, u"2000"_s);
         EXPECT_EQ(Reglage(u"Annee Challenge DFCF"_s), u"absent"_s);
     }
     EXPECT_TRUE(essai.fichiers.Fichiers().isEmpty());
@@ -104,6 +104,6 @@ TEST_F(Choix_Annee, une_annee_que_le_disque_refuse_est_refusee)
 {
     EXPECT_FALSE(Choisit_Annee(essai.poste, QString(300, u'9')));
     EXPECT_EQ(essai.boites.messages, std::vector{u"Année incorrecte"_s});
-    EXPECT_EQ(essai.etat.annee_ch_dfcf, u"2000"_s);
+    EXPECT_EQ(essai.etat.station.annee_ch_dfcf, u"2000"_s);
     EXPECT_EQ(Reglage(u"Annee Challenge DFCF"_s), u"absent"_s);
 }

@@ -89,7 +89,7 @@ TEST(Export_ADIF, les_noms_prennent_la_forme_enregistree_et_le_texte_celle_de_l_
 {
     Poste_Essai essai;
     essai.Ouvre(u"WLF"_s);
-    essai.etat.indicatif = u"F9ZZY_P"_s;
+    essai.etat.station.indicatif = u"F9ZZY_P"_s;
     essai.ecran.i_station = u"F9ZZY/P"_s;
     essai.fichiers.Pose(u"F9ZZY_P_WLF.log"_s, "");
     Export_ADIF(essai.poste);
@@ -100,7 +100,7 @@ TEST(Export_ADIF, le_challenge_dfcf_lit_le_log_de_son_annee)
 {
     Poste_Essai essai;
     essai.Ouvre(u"Ch_DFCF"_s);
-    essai.etat.annee_ch_dfcf = u"2017"_s;
+    essai.etat.station.annee_ch_dfcf = u"2017"_s;
     essai.fichiers.Pose(u"F9ZZY_Ch_DFCF_2017.log"_s, Texte_Log({QSO({.ref = u"77001A"_s})}).toLatin1());
     Export_ADIF(essai.poste);
     EXPECT_TRUE(essai.fichiers.Octets(u"F9ZZY_Ch_DFCF.adi"_s).contains("<SIG:6>77001A "));
@@ -110,7 +110,7 @@ TEST(Export_ADIF, le_challenge_dmf_cherche_un_log_sans_annee)
 {
     Poste_Essai essai;
     essai.Ouvre(u"Ch_DMF"_s);
-    essai.etat.annee_ch_dmf = u"2017"_s;
+    essai.etat.station.annee_ch_dmf = u"2017"_s;
     essai.fichiers.Pose(u"F9ZZY_Ch_DMF_2017.log"_s, Texte_Log({QSO({.ref = u"77001A"_s})}).toLatin1());
     EXPECT_THROW(Export_ADIF(essai.poste), Erreur_Execution);
     EXPECT_FALSE(essai.fichiers.Existe(u"F9ZZY_Ch_DMF.adi"_s));

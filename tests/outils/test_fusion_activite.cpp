@@ -19,8 +19,8 @@ struct Fusion_D_Activite : ::testing::Test {
     void SetUp() override
     {
         Ouvre(u"Ch_DFCF"_s);
-        essai.etat.annee_ch_dfcf = u"2017"_s;
-        essai.etat.annee_ch_dmf = u"2018"_s;
+        essai.etat.station.annee_ch_dfcf = u"2017"_s;
+        essai.etat.station.annee_ch_dmf = u"2018"_s;
         Pose(u"F9ZZY_Ch_DFCF_2017.log"_s, {});
         Pose(u"F9ZZY_DFCF.log"_s, {});
     }
@@ -42,7 +42,7 @@ TEST_F(Fusion_D_Activite, les_qso_de_l_annee_arrivent_avec_la_lettre_a)
     Pose(u"F9ZZY_DFCF.log"_s,
          {QSO({.ref = u"77001"_s, .date = u"01/02/17"_s}), QSO({.ref = u"77002"_s, .date = u"01/02/16"_s}),
           QSO({.ref = u"77003R"_s, .date = u"02/02/17"_s})});
-    Fusion_Activite(essai.poste, u"DFCF");
+    Fusion_Activite(essai.poste, Diplome::DFCF);
     EXPECT_EQ(Log(), (Textes{QSO({.ref = u"77001A"_s, .date = u"01/02/17"_s}),
                              QSO({.ref = u"77003A"_s, .date = u"02/02/17"_s})}));
     EXPECT_EQ(essai.boites.messages,
@@ -55,7 +55,7 @@ TEST_F(Fusion_D_Activite, un_site_deja_dans_le_challenge_garde_sa_ligne)
     const QString ancienne = QSO({.ind = u"F1OLD"_s, .ref = u"77001R"_s, .date = u"05/05/17"_s, .qsl = u"*"_s});
     Pose(u"F9ZZY_Ch_DFCF_2017.log"_s, {ancienne, QSO({.ind = u"F2OLD"_s, .ref = u"77001A"_s, .date = u"01/01/17"_s})});
     Pose(u"F9ZZY_DFCF.log"_s, {QSO({.ref = u"77001"_s, .date = u"01/02/17"_s})});
-    Fusion_Activite(essai.poste, u"DFCF");
+    Fusion_Activite(essai.poste, Diplome::DFCF);
     // The first of the two is taken, the other one has no line in the source that asks for it.
     EXPECT_EQ(Log(), Textes{ancienne});
 }
@@ -65,7 +65,7 @@ TEST_F(Fusion_D_Activite, une_ligne_du_challenge_sans_qso_de_l_annee_s_en_va)
     Pose(u"F9ZZY_Ch_DFCF_2017.log"_s, {QSO({.ref = u"93001R"_s, .date = u"05/05/17"_s})});
     Pose(u"F9ZZY_DFCF.log"_s,
          {QSO({.ref = u"77001"_s, .date = u"01/02/17"_s}), QSO({.ref = u"93001"_s, .date = u"01/02/15"_s})});
-    Fusion_Activite(essai.poste, u"DFCF");
+    Fusion_Activite(essai.poste, Diplome::DFCF);
     EXPECT_EQ(Log(), Textes{QSO({.ref = u"77001A"_s, .date = u"01/02/17"_s})});
 }
 
@@ -74,7 +74,7 @@ TEST_F(Fusion_D_Activite, les_doubles_par_reference_s_en_vont_et_le_log_est_trie
     Pose(u"F9ZZY_DFCF.log"_s,
          {QSO({.ref = u"77001"_s, .date = u"20/02/17"_s}), QSO({.ref = u"77001"_s, .date = u"02/08/17"_s}),
           QSO({.ref = u"77000"_s, .date = u"01/05/17"_s})});
-    Fusion_Activite(essai.poste, u"DFCF");
+    Fusion_Activite(essai.poste, Diplome::DFCF);
     EXPECT_EQ(Log(), (Textes{QSO({.ref = u"77000A"_s, .date = u"01/05/17"_s}),
                              QSO({.ref = u"77001A"_s, .date = u"02/08/17"_s})}));
 }
@@ -85,14 +85,14 @@ TEST_F(Fusion_D_Activite, le_challenge_dmf_prend_le_log_dmf_et_son_annee)
     Pose(u"F9ZZY_Ch_DMF_2018.log"_s, {});
     Pose(u"F9ZZY_DMF.log"_s,
          {QSO({.ref = u"77001"_s, .date = u"01/02/18"_s}), QSO({.ref = u"77002"_s, .date = u"01/02/17"_s})});
-    Fusion_Activite(essai.poste, u"DMF");
+    Fusion_Activite(essai.poste, Diplome::DMF);
     EXPECT_EQ(Log(u"F9ZZY_Ch_DMF_2018.log"_s), Textes{QSO({.ref = u"77001A"_s, .date = u"01/02/18"_s})});
 }
 
 TEST_F(Fusion_D_Activite, a_la_fin_la_saisie_est_au_repos_et_le_dernier_qso_choisi)
 {
     Pose(u"F9ZZY_DFCF.log"_s, {QSO({.ref = u"77001"_s, .date = u"01/02/17"_s})});
-    Fusion_Activite(essai.poste, u"DFCF");
+    Fusion_Activite(essai.poste, Diplome::DFCF);
     ASSERT_GE(essai.ecran.appels.size(), 2U);
     EXPECT_EQ(essai.ecran.appels[essai.ecran.appels.size() - 2], u"Efface_Saisie"_s);
     EXPECT_EQ(essai.ecran.appels.back(), u"Selectionne_Derniere"_s);
@@ -104,11 +104,11 @@ TEST_F(Fusion_D_Activite, un_log_manquant_est_fatal_et_rien_n_est_ecrit)
     const QString ancienne = QSO({.ref = u"77001R"_s, .date = u"05/05/17"_s});
     Pose(u"F9ZZY_Ch_DFCF_2017.log"_s, {ancienne});
     essai.dossier.Supprime(u"F9ZZY_DFCF.log"_s);
-    EXPECT_THROW(Fusion_Activite(essai.poste, u"DFCF"), Erreur_Execution);
+    EXPECT_THROW(Fusion_Activite(essai.poste, Diplome::DFCF), Erreur_Execution);
     EXPECT_EQ(Log(), Textes{ancienne});
     Pose(u"F9ZZY_DFCF.log"_s, {QSO({.ref = u"77001"_s, .date = u"05/05/17"_s})});
     essai.dossier.Supprime(u"F9ZZY_Ch_DFCF_2017.log"_s);
-    EXPECT_THROW(Fusion_Activite(essai.poste, u"DFCF"), Erreur_Execution);
+    EXPECT_THROW(Fusion_Activite(essai.poste, Diplome::DFCF), Erreur_Execution);
     EXPECT_FALSE(essai.fichiers.Existe(u"F9ZZY_Ch_DFCF_2017.log"_s));
 }
 
@@ -121,7 +121,7 @@ TEST_F(Fusion_D_Activite, un_autre_diplome_dans_dip_a_est_refuse_et_rien_n_est_e
         essai.ecran.dip_a = texte;
         essai.ecran.appels.clear();
         essai.boites.messages.clear();
-        Fusion_Activite(essai.poste, u"DFCF");
+        Fusion_Activite(essai.poste, Diplome::DFCF);
         EXPECT_EQ(essai.boites.messages, Textes{u"Selectionnez un diplome"_s});
         EXPECT_EQ(essai.ecran.appels, Textes{u"Va_A_Dip_A"_s});
         EXPECT_EQ(Log(), Textes{});

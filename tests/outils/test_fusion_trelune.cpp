@@ -62,15 +62,15 @@ struct Fusion_De_Trelune : ::testing::Test {
     void SetUp() override
     {
         essai.Ouvre(u"Ch_DFCF"_s);
-        essai.etat.annee_ch_dfcf = u"2017"_s;
-        essai.etat.annee_ch_dmf = u"2017"_s;
+        essai.etat.station.annee_ch_dfcf = u"2017"_s;
+        essai.etat.station.annee_ch_dmf = u"2017"_s;
         essai.reglages.trelune[{u"Setup"_s, u"Chemin Repertoire"_s}] = trelune.Chemin();
         essai.fichiers.Pose(u"Liste_DFCF.csv"_s, "Rev 001 du 01/01/12;;;;;\r\n77-001;Ch\xE2teau de Vaux;;;Vaux;77\r\n");
         Pose({});
     }
     void Pose(const Textes &lignes) const
     {
-        const QString code = essai.etat.diplome;
+        const QString code = Code(essai.etat.station.diplome).toString();
         essai.fichiers.Pose(u"F9ZZY_"_s + code + u"_2017.log", Texte_Log(lignes).toLatin1());
     }
     void Pose_Trelune(const std::vector<QSO_Trelune> &qsos) const
@@ -82,7 +82,7 @@ struct Fusion_De_Trelune : ::testing::Test {
     }
     [[nodiscard]] Textes Log() const
     {
-        const QString code = essai.etat.diplome;
+        const QString code = Code(essai.etat.station.diplome).toString();
         return En_Lignes(QString::fromLatin1(essai.fichiers.Octets(u"F9ZZY_"_s + code + u"_2017.log")));
     }
     Textes Fusionne(const std::vector<QSO_Trelune> &qsos)
@@ -186,7 +186,7 @@ TEST_F(Fusion_De_Trelune, le_log_est_sans_double_et_trie_et_la_saisie_au_repos)
 
 TEST_F(Fusion_De_Trelune, un_autre_diplome_dans_dip_a_ne_change_pas_de_log)
 {
-    essai.etat.annee_ch_dmf = u"2018"_s;
+    essai.etat.station.annee_ch_dmf = u"2018"_s;
     const Textes moulins{QSO({.ref = u"77009R"_s, .nom = u"M. A MOI"_s})};
     essai.fichiers.Pose(u"F9ZZY_Ch_DMF_2018.log"_s, Texte_Log(moulins).toLatin1());
     const QString ancienne = QSO({.ref = u"77001R"_s, .nom = u"C. A MOI"_s});

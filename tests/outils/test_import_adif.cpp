@@ -306,7 +306,7 @@ TEST_F(Import, sans_log_le_remplacement_est_fatal)
 TEST_F(Import, le_challenge_dfcf_va_dans_le_log_de_son_annee)
 {
     essai.Ouvre(u"Ch_DFCF"_s);
-    essai.etat.annee_ch_dfcf = u"2015"_s;
+    essai.etat.station.annee_ch_dfcf = u"2015"_s;
     essai.fichiers.Pose(u"F9ZZY_Ch_DFCF_2015.log"_s, "");
     Choisit({ADIF({.sig = u"77001A"_s})}, u"Ch_DFCF.adi"_s);
     Lance(ajoute);
@@ -317,7 +317,7 @@ TEST_F(Import, le_challenge_dfcf_va_dans_le_log_de_son_annee)
 TEST_F(Import, le_challenge_dmf_va_dans_un_log_sans_annee_et_la_liste_montre_celui_de_l_annee)
 {
     essai.Ouvre(u"Ch_DMF"_s);
-    essai.etat.annee_ch_dmf = u"2015"_s;
+    essai.etat.station.annee_ch_dmf = u"2015"_s;
     essai.fichiers.Pose(u"F9ZZY_Ch_DMF_2015.log"_s, "");
     Choisit({ADIF({.sig = u"77001A"_s})}, u"Ch_DMF.adi"_s);
     Lance(ajoute);

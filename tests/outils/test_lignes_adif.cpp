@@ -12,7 +12,7 @@ constexpr Choix_Import multi{.multi = true};
 Lecture_ADIF Lit_Seul(const QString &enregistrement, const QString &code = u"DFCF"_s,
                       const Choix_Import &choix = simple)
 {
-    return Lignes_ADIF(code, choix).Lit(enregistrement);
+    return Lignes_ADIF(Diplome_De(code), choix).Lit(enregistrement);
 }
 
 /// A field of the line that a record gives.
@@ -255,7 +255,7 @@ TEST(Lignes_ADIF, en_multi_seul_le_diplome_ouvert_est_pris)
 
 TEST(Lignes_ADIF, en_multi_le_code_d_un_enregistrement_reste_pour_les_suivants)
 {
-    Lignes_ADIF lignes(u"DMF"_s, multi);
+    Lignes_ADIF lignes(Diplome::DMF, multi);
     EXPECT_FALSE(lignes.Lit(ADIF({.sig = u"93001"_s})).ligne);
     EXPECT_TRUE(lignes.Lit(ADIF({.sig = u"DMF-93013"_s})).ligne);
     EXPECT_TRUE(lignes.Lit(ADIF({.sig = u"93014"_s})).ligne);

@@ -68,8 +68,8 @@ TEST_F(Sauvegarde, les_annees_des_challenges_sont_relues)
     Regle(u"Annee Challenge DFCF"_s, u"2017"_s);
     Regle(u"Annee Challenge DMF"_s, u"2019"_s);
     Sauve_Logs(essai.poste);
-    EXPECT_EQ(essai.etat.annee_ch_dfcf, u"2017"_s);
-    EXPECT_EQ(essai.etat.annee_ch_dmf, u"2019"_s);
+    EXPECT_EQ(essai.etat.station.annee_ch_dfcf, u"2017"_s);
+    EXPECT_EQ(essai.etat.station.annee_ch_dmf, u"2019"_s);
 }
 
 TEST_F(Sauvegarde, un_separateur_a_la_fin_du_repertoire_ne_gene_pas)
@@ -114,7 +114,7 @@ TEST_F(Sauvegarde, une_copie_refusee_laisse_l_ancienne_et_les_suivantes_se_font)
 
 TEST_F(Sauvegarde, chaque_indicatif_a_son_repertoire)
 {
-    essai.etat.indicatif = u"F9ZZY_P"_s;
+    essai.etat.station.indicatif = u"F9ZZY_P"_s;
     essai.fichiers.Pose(u"F9ZZY_P_DLF.log"_s, "x\r\n");
     Sauve_Logs(essai.poste);
     EXPECT_TRUE(cible.Fichiers().isEmpty());

@@ -169,7 +169,7 @@ TEST(Supprime_Doubles, le_challenge_reecrit_le_log_de_son_annee)
 {
     Poste_Essai essai;
     essai.Ouvre(u"Ch_DFCF"_s);
-    essai.etat.annee_ch_dfcf = u"2017"_s;
+    essai.etat.station.annee_ch_dfcf = u"2017"_s;
     const QString a = QSO({.ref = u"93013A"_s});
     essai.fichiers.Pose(u"F9ZZY_Ch_DFCF_2017.log"_s, Texte_Log({a, a}).toLatin1());
     essai.fichiers.Pose(u"F9ZZY_Ch_DFCF.log"_s, "autre");

@@ -167,7 +167,7 @@ TEST(Trie_Log, un_challenge_est_trie_dans_le_log_de_son_annee)
 {
     Poste_Essai essai;
     essai.Ouvre(u"Ch_DMF"_s);
-    essai.etat.annee_ch_dmf = u"2018"_s;
+    essai.etat.station.annee_ch_dmf = u"2018"_s;
     const QString a = QSO({.date = u"01/01/18"_s});
     const QString b = QSO({.date = u"02/01/18"_s});
     essai.fichiers.Pose(u"F9ZZY_Ch_DMF_2018.log"_s, Texte_Log({b, a}).toLatin1());

@@ -25,7 +25,7 @@ struct Ecran_Annee : ::testing::Test {
     void Ouvre(const QString &genre)
     {
         essai.Ouvre(u"Ch_DFCF"_s);
-        essai.etat.genre_challenge = genre;
+        essai.etat.challenge = genre == u"DMF" ? Diplome::Ch_DMF : Diplome::Ch_DFCF;
         ecran = new Select_Annee(essai.poste);
         ecran->show();
         annee = ecran->findChild<QLineEdit *>(u"New_Annee"_s);
@@ -75,7 +75,7 @@ TEST_F(Ecran_Annee, le_clavier_seul_choisit_l_annee_et_ferme)
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_Enter);
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
     EXPECT_TRUE(ecran.isNull() || !ecran->isVisible());
-    EXPECT_EQ(essai.etat.annee_ch_dfcf, u"2017"_s);
+    EXPECT_EQ(essai.etat.station.annee_ch_dfcf, u"2017"_s);
     EXPECT_TRUE(essai.fichiers.Existe(u"F9ZZY_Ch_DFCF_2017.log"_s));
 }
 

@@ -63,7 +63,7 @@ TEST(Cartes, se_marquent_dans_un_log_qui_n_est_pas_le_courant)
     essai.Ouvre(u"DMF"_s);
     essai.fichiers.Pose(u"F9ZZY_DMF.log"_s, Log({d_un_autre}));
     essai.fichiers.Pose(u"F9ZZY_DFCF.log"_s, Log({du_f9zz, du_f9zzy}));
-    const Cartes_Attendues cartes = Cherche_Cartes(essai.poste, u"DFCF", u"F9ZZY");
+    const Cartes_Attendues cartes = Cherche_Cartes(essai.poste, Diplome::DFCF, u"F9ZZY");
     EXPECT_EQ(cartes.log, u"F9ZZY_DFCF.log"_s);
     EXPECT_EQ(cartes.lignes, std::vector{du_f9zzy});
     Marque_Cartes(essai.poste, cartes.log, cartes.lignes);
@@ -90,7 +90,7 @@ TEST(Cartes, un_QSO_ajoute_depuis_la_recherche_est_garde)
     Poste_Essai essai;
     essai.Ouvre(u"DFCF"_s);
     essai.fichiers.Pose(u"F9ZZY_DFCF.log"_s, Log({du_f9zz}));
-    const Cartes_Attendues cartes = Cherche_Cartes(essai.poste, u"DFCF", u"F9ZZ");
+    const Cartes_Attendues cartes = Cherche_Cartes(essai.poste, Diplome::DFCF, u"F9ZZ");
     essai.fichiers.Pose(u"F9ZZY_DFCF.log"_s, Log({du_f9zz, d_un_autre}));
     Marque_Cartes(essai.poste, cartes.log, cartes.lignes);
     EXPECT_EQ(essai.fichiers.Octets(u"F9ZZY_DFCF.log"_s), Log({Avec_Carte(du_f9zz), d_un_autre}));
@@ -102,17 +102,17 @@ TEST(Cartes, l_annee_du_challenge_est_relue_a_chaque_recherche)
     essai.fichiers.Pose(u"F9ZZY_Ch_DFCF_2000.log"_s, Log({d_un_autre}));
     essai.fichiers.Pose(u"F9ZZY_Ch_DFCF_2017.log"_s, Log({du_f9zz}));
     essai.fichiers.Pose(u"F9ZZY_Ch_DMF_2018.log"_s, Log({du_f9zzy}));
-    EXPECT_EQ(Cherche_Cartes(essai.poste, u"Ch_DFCF", u"").lignes, std::vector{d_un_autre});
+    EXPECT_EQ(Cherche_Cartes(essai.poste, Diplome::Ch_DFCF, u"").lignes, std::vector{d_un_autre});
     essai.reglages.Ecrit(u"Setup F9ZZY"_s, u"Annee Challenge DFCF"_s, u"2017"_s);
     essai.reglages.Ecrit(u"Setup F9ZZY"_s, u"Annee Challenge DMF"_s, u"2018"_s);
-    EXPECT_EQ(Cherche_Cartes(essai.poste, u"Ch_DFCF", u"").lignes, std::vector{du_f9zz});
-    EXPECT_EQ(Cherche_Cartes(essai.poste, u"Ch_DMF", u"").lignes, std::vector{du_f9zzy});
+    EXPECT_EQ(Cherche_Cartes(essai.poste, Diplome::Ch_DFCF, u"").lignes, std::vector{du_f9zz});
+    EXPECT_EQ(Cherche_Cartes(essai.poste, Diplome::Ch_DMF, u"").lignes, std::vector{du_f9zzy});
 }
 
 TEST(Cartes, un_log_absent_est_un_echec)
 {
     Poste_Essai essai;
-    EXPECT_THROW(Cherche_Cartes(essai.poste, u"DFCF", u"F9ZZ"), Erreur_Execution);
+    EXPECT_THROW(Cherche_Cartes(essai.poste, Diplome::DFCF, u"F9ZZ"), Erreur_Execution);
 }
 
 TEST(Cartes, dix_lignes_de_deux_cent_mille_en_moins_d_une_seconde)
@@ -123,7 +123,7 @@ TEST(Cartes, dix_lignes_de_deux_cent_mille_en_moins_d_une_seconde)
     for (int i = 0; i < 200'000; ++i)
         lignes.push_back(QSO({.ind = u"F5%1"_s.arg(i), .ref = u"77001"_s}));
     essai.fichiers.Pose(u"F9ZZY_DFCF.log"_s, Log(lignes));
-    Cartes_Attendues cartes = Cherche_Cartes(essai.poste, u"DFCF", u"F51999");
+    Cartes_Attendues cartes = Cherche_Cartes(essai.poste, Diplome::DFCF, u"F51999");
     cartes.lignes.resize(10);
     const std::clock_t debut = std::clock();
     Marque_Cartes(essai.poste, cartes.log, cartes.lignes);

@@ -32,7 +32,7 @@ protected:
 private:
     QString Reponse(const QString &code, bool selectionne, void (*bouton)(Poste &, Commandes &))
     {
-        essai.etat.diplome = code;
+        essai.etat.station.diplome = Diplome_De(code);
         essai.etat.ligne_selectionnee = selectionne ? u"      1  F5ABC"_s : QString();
         essai.ecrans.montres.clear();
         commandes.executees.clear();
@@ -93,8 +93,8 @@ TEST_F(Boutons, sans_qso_detail_demande_un_qso_sauf_pour_ch_dfcf)
 TEST_F(Boutons, detail_1_ne_repond_qu_aux_challenges_et_sans_qso)
 {
     for (const QStringView code : codes_diplome)
-        EXPECT_EQ(Detail_1(code.toString()),
-                  Est_Challenge(code) ? u"execute Fusion_Trelune"_s : u"dit Bouton inactif pour ce diplome"_s);
+        EXPECT_EQ(Detail_1(code.toString()), Est_Challenge(Diplome_De(code)) ? u"execute Fusion_Trelune"_s
+                                                                             : u"dit Bouton inactif pour ce diplome"_s);
 }
 
 TEST_F(Boutons, le_diplome_courant_compte_et_non_celui_de_dip_a)

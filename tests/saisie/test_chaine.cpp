@@ -119,7 +119,7 @@ TEST_F(Saisie_En_Chaine, fff_prend_tout_departement_et_aucun)
 
 TEST_F(Saisie_En_Chaine, sans_indicatif_de_station_la_touche_tombe)
 {
-    essai.etat.indicatif = u"FXXXX"_s;
+    essai.etat.station.indicatif = u"FXXXX"_s;
     essai.fichiers.Pose(u"FXXXX_DFCF.log"_s, "");
     EXPECT_FALSE(Accepte_Touche(essai.poste, vue, Ind_A));
     EXPECT_EQ(
@@ -132,7 +132,7 @@ TEST_F(Saisie_En_Chaine, sans_indicatif_de_station_la_touche_tombe)
         std::vector<QString>{
             u"\n         Premiere installation, vous devez entrer votre Indicatif\n\nPour cela dans la barre des menus allez dans 'Station' puis 'Nouvel Indicatif'."_s});
     EXPECT_TRUE(Accepte_Touche(essai.poste, vue, Bande_A));
-    essai.etat.indicatif = u"F9ZZY"_s;
+    essai.etat.station.indicatif = u"F9ZZY"_s;
     EXPECT_TRUE(Accepte_Touche(essai.poste, vue, Ind_A));
     EXPECT_TRUE(Accepte_Touche(essai.poste, vue, Dip_A));
     EXPECT_TRUE(essai.Messages().empty());

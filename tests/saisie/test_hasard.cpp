@@ -42,7 +42,7 @@ public:
     /// A commit has an old line to take the place of.
     [[nodiscard]] bool A_Une_Cible() const
     {
-        const Lignes_Texte log = essai_.dossier.Lit_Lignes(u"F9ZZY_" + essai_.etat.diplome + u".log");
+        const Lignes_Texte log = essai_.dossier.Lit_Lignes(u"F9ZZY_" + Code(essai_.etat.station.diplome) + u".log");
         const QString cible = Ligne_Log_Affichee(essai_.etat.ligne_selectionnee);
         return essai_.etat.qso_affiche && std::find(log.begin(), log.end(), cible) != log.end();
     }

@@ -19,7 +19,7 @@ protected:
     Diplome_Choisi()
     {
         for (const QStringView code : codes_diplome)
-            essai.fichiers.Pose(u"F9ZZY_"_s + code + (Est_Challenge(code) ? u"_2026.log" : u".log"), "");
+            essai.fichiers.Pose(u"F9ZZY_"_s + code + (Est_Challenge(Diplome_De(code)) ? u"_2026.log" : u".log"), "");
         essai.reglages.vorlain[{u"Setup F9ZZY"_s, u"Annee Challenge DFCF"_s}] = u"2026"_s;
         essai.reglages.vorlain[{u"Setup F9ZZY"_s, u"Annee Challenge DMF"_s}] = u"2026"_s;
         essai.reglages.vorlain[{u"Setup F9ZZY"_s, u"Revision_Liste_WFF"_s}] = u"Rev 017 du 01/01/26"_s;
@@ -51,17 +51,17 @@ TEST_F(Diplome_Choisi, chaque_code_s_ouvre_sur_la_bande_et_se_retient)
         const QStringView code = codes_diplome[rang];
         SCOPED_TRACE(code.toString().toStdString());
         Ouvre(code);
-        EXPECT_EQ(essai.etat.diplome, code.toString());
-        EXPECT_EQ(vue.Texte(Controle::Type_Ref), Habillage_De(code)->type_ref.toString());
-        EXPECT_EQ(vue.Texte(Detail), Habillage_De(code)->detail.toString());
-        EXPECT_EQ(vue.Texte(Label1), Habillage_De(code)->label1.toString());
-        const QString annee = Est_Challenge(code) ? u"2026"_s : QString();
-        EXPECT_EQ(vue.Texte(Frame3), Habillage_De(code)->frame3.toString() + annee);
+        EXPECT_EQ(essai.etat.station.diplome, Diplome_De(code));
+        EXPECT_EQ(vue.Texte(Controle::Type_Ref), Habillage_De(*Diplome_De(code)).type_ref.toString());
+        EXPECT_EQ(vue.Texte(Detail), Habillage_De(*Diplome_De(code)).detail.toString());
+        EXPECT_EQ(vue.Texte(Label1), Habillage_De(*Diplome_De(code)).label1.toString());
+        const QString annee = Est_Challenge(Diplome_De(code)) ? u"2026"_s : QString();
+        EXPECT_EQ(vue.Texte(Frame3), Habillage_De(*Diplome_De(code)).frame3.toString() + annee);
         EXPECT_EQ(vue.focus, Bande_A);
         EXPECT_TRUE(vue.Est_Actif(Bande_A));
         EXPECT_TRUE(vue.Est_Actif(Ind_A));
         EXPECT_EQ(Reglage(u"Diplome Utilise"_s), QString::number(rang));
-        EXPECT_EQ(essai.Messages().size(), Est_Challenge(code) ? 1U : 0U);
+        EXPECT_EQ(essai.Messages().size(), Est_Challenge(Diplome_De(code)) ? 1U : 0U);
     }
     EXPECT_TRUE(essai.ecrans.modaux.empty());
 }
@@ -86,7 +86,7 @@ TEST_F(Diplome_Choisi, une_modification_en_cours_ne_retient_pas_le_code)
     Ouvre(u"DMF");
     EXPECT_EQ(Reglage(u"Diplome Utilise"_s), u"6"_s);
     EXPECT_TRUE(essai.etat.qso_en_edition);
-    EXPECT_EQ(essai.etat.diplome, u"DMF"_s);
+    EXPECT_EQ(essai.etat.station.diplome, Diplome::DMF);
 }
 
 TEST_F(Diplome_Choisi, une_autre_touche_retient_le_code_et_laisse_le_diplome)
@@ -95,7 +95,7 @@ TEST_F(Diplome_Choisi, une_autre_touche_retient_le_code_et_laisse_le_diplome)
     vue.Ecrit(Dip_A, u"DMF"_s);
     Apres_Touche(essai.poste, vue, Dip_A);
     EXPECT_EQ(Reglage(u"Diplome Utilise"_s), u"11"_s);
-    EXPECT_EQ(essai.etat.diplome, u"DFCF"_s);
+    EXPECT_EQ(essai.etat.station.diplome, Diplome::DFCF);
     EXPECT_EQ(vue.Texte(Frame3), u"Diplome des Forts et Chateaux de France"_s);
 }
 
@@ -108,7 +108,7 @@ TEST_F(Diplome_Choisi, la_revision_de_la_liste_fff_se_lit_au_cinquieme_caractere
         essai.reglages.vorlain[{u"Setup F9ZZY"_s, u"Revision_Liste_WFF"_s}] = revision;
         Ouvre(u"FFF");
         EXPECT_EQ(!essai.Messages().empty(), prevenu) << revision.toStdString();
-        EXPECT_EQ(essai.etat.diplome, u"FFF"_s);
+        EXPECT_EQ(essai.etat.station.diplome, Diplome::FFF);
     }
 }
 
@@ -116,8 +116,8 @@ TEST_F(Diplome_Choisi, un_challenge_sans_annee_demande_la_sienne)
 {
     essai.reglages.vorlain.erase({u"Setup F9ZZY"_s, u"Annee Challenge DMF"_s});
     essai.ecrans.pendant_modal = [&](const QString &) {
-        EXPECT_EQ(essai.etat.genre_challenge, u"DMF"_s);
-        essai.etat.annee_ch_dmf = u"2026"_s;
+        EXPECT_EQ(essai.etat.challenge, Diplome::Ch_DMF);
+        essai.etat.station.annee_ch_dmf = u"2026"_s;
     };
     Ouvre(u"Ch_DMF");
     EXPECT_EQ(essai.ecrans.modaux, std::vector<QString>{u"Select_Annee"_s});
@@ -140,7 +140,7 @@ TEST_F(Diplome_Choisi, un_code_tape_sans_sa_casse_s_ouvre_sous_sa_forme)
     for (const auto &[tape, code] :
          {std::pair(u"CH_DFCF"_s, u"Ch_DFCF"_s), std::pair(u"ch_dmf"_s, u"Ch_DMF"_s), std::pair(u"dlf"_s, u"DLF"_s)}) {
         Ouvre(tape);
-        EXPECT_EQ(essai.etat.diplome, code);
+        EXPECT_EQ(essai.etat.station.diplome, Diplome_De(code));
         EXPECT_EQ(vue.Texte(Dip_A), code);
         EXPECT_EQ(Reglage(u"Diplome Utilise"_s), QString::number(Rang(code)));
     }
@@ -158,7 +158,7 @@ TEST_F(Diplome_Choisi, un_code_tape_prend_sa_forme_des_sa_derniere_lettre)
     EXPECT_EQ(vue.Texte(Dip_A), u"Ch_DMF"_s);
     EXPECT_EQ(Reglage(u"Diplome Utilise"_s), u"1"_s);
     EXPECT_TRUE(vue.curseurs_a_la_fin.contains(Dip_A));
-    EXPECT_EQ(essai.etat.diplome, u"DFCF"_s);
+    EXPECT_EQ(essai.etat.station.diplome, Diplome::DFCF);
 }
 
 TEST_F(Diplome_Choisi, un_choix_d_annee_sans_choix_remet_le_diplome_ouvert_dans_dip_a)
@@ -166,7 +166,7 @@ TEST_F(Diplome_Choisi, un_choix_d_annee_sans_choix_remet_le_diplome_ouvert_dans_
     essai.reglages.vorlain.erase({u"Setup F9ZZY"_s, u"Annee Challenge DMF"_s});
     Ouvre(u"DFCF");
     Ouvre(u"Ch_DMF");
-    EXPECT_EQ(essai.etat.diplome, u"DFCF"_s);
+    EXPECT_EQ(essai.etat.station.diplome, Diplome::DFCF);
     EXPECT_EQ(vue.Texte(Dip_A), u"DFCF"_s);
     EXPECT_EQ(vue.Texte(Frame3), u"Diplome des Forts et Chateaux de France"_s);
 }

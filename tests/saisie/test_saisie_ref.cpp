@@ -160,11 +160,11 @@ protected:
     }
     void Ouvre_Diplome_Vide(QStringView code)
     {
-        essai.etat.annee_ch_dfcf = essai.etat.annee_ch_dmf = u"2026"_s;
+        essai.etat.station.annee_ch_dfcf = essai.etat.station.annee_ch_dmf = u"2026"_s;
         const bool differee = essai.etat.saisie_differee;
         const bool affiche = essai.etat.qso_affiche;
         essai.Ouvre_Log(code.toString());
-        if (Est_Challenge(code))
+        if (Est_Challenge(Diplome_De(code)))
             essai.fichiers.Pose(u"F9ZZY_"_s + code + u"_2026.log", "");
         essai.etat.saisie_differee = differee;
         essai.etat.qso_affiche = affiche;
@@ -235,7 +235,7 @@ TEST_F(Reference, onze_caracteres_ont_le_message_general_pour_tout_diplome)
 TEST_F(Reference, les_18_diplomes_a_reference_ont_une_regle_et_les_autres_non)
 {
     for (const QStringView code : codes_diplome)
-        EXPECT_EQ(Regle_Ref_De(code) != nullptr, code != u"DDFM" && code != u"DPF" && code != u"DYLF");
+        EXPECT_EQ(Regle_Ref_De(Diplome_De(code)) != nullptr, code != u"DDFM" && code != u"DPF" && code != u"DYLF");
     // Another text goes straight to the department.
     Entre(u"DDFM", u"x");
     EXPECT_EQ(vue.focus, Dpt_A);

@@ -55,7 +55,7 @@ TEST_F(Changement, une_station_neuve_recoit_21_logs_vides_et_ses_reglages)
     EXPECT_EQ(Reglage(u"Setup F4ABC_P"_s, u"bande Utilisee"_s), u"0"_s);
     EXPECT_EQ(Reglage(u"Setup F4ABC_P"_s, u"Mode Utilise"_s), u"0"_s);
     EXPECT_EQ(essai.vue.Texte(Controle::Bande_A), u"1.8 Mhz"_s);
-    EXPECT_EQ(essai.etat.indicatif, u"F4ABC_P"_s);
+    EXPECT_EQ(essai.etat.station.indicatif, u"F4ABC_P"_s);
     EXPECT_EQ(essai.vue.I_Station(), u"F4ABC/P"_s);
 }
 
@@ -83,7 +83,7 @@ TEST_F(Changement, le_diplome_courant_reste_et_son_log_s_affiche)
     essai.fichiers.Pose(u"F4ABC_DMF.log"_s, QSO({.ref = u"77001"_s}).toLatin1() + "\r\n");
     essai.reglages.vorlain[{u"Setup F4ABC"_s, u"Diplome Utilise"_s}] = u"0"_s;
     Change_Station(essai.poste, essai.vue, u"F4ABC"_s);
-    EXPECT_EQ(essai.etat.diplome, u"DMF"_s);
+    EXPECT_EQ(essai.etat.station.diplome, Diplome::DMF);
     EXPECT_EQ(essai.vue.Dip_A(), u"DMF"_s);
     EXPECT_EQ(essai.vue.liste.size(), 1U);
 }
@@ -99,14 +99,14 @@ TEST_F(Changement, un_log_qui_manque_laisse_la_liste_vide_sans_un_mot)
 
 TEST_F(Changement, les_annees_de_challenge_sont_celles_de_la_station)
 {
-    essai.etat.annee_ch_dfcf = u"2025"_s;
+    essai.etat.station.annee_ch_dfcf = u"2025"_s;
     essai.reglages.vorlain[{u"Setup F4ABC"_s, u"Annee Challenge DMF"_s}] = u"2024"_s;
     essai.fichiers.Pose(u"F4ABC_DFCF.log"_s, "");
     essai.fichiers.Pose(u"F4ABC_Ch_DMF_2024.log"_s, QSO({}).toLatin1() + "\r\n");
-    essai.etat.diplome = u"Ch_DMF"_s;
+    essai.etat.station.diplome = Diplome::Ch_DMF;
     Change_Station(essai.poste, essai.vue, u"F4ABC"_s);
-    EXPECT_EQ(essai.etat.annee_ch_dfcf, u"2000"_s);
-    EXPECT_EQ(essai.etat.annee_ch_dmf, u"2024"_s);
+    EXPECT_EQ(essai.etat.station.annee_ch_dfcf, u"2000"_s);
+    EXPECT_EQ(essai.etat.station.annee_ch_dmf, u"2024"_s);
     EXPECT_EQ(essai.vue.liste.size(), 1U);
 }
 
@@ -134,7 +134,7 @@ TEST_F(Changement, un_log_dfcf_qui_ne_s_ouvre_pas_ne_vide_pas_les_autres)
     essai.fichiers.Pose(u"F4ABC_DMF.log"_s, log);
     Change_Station(essai.poste, essai.vue, u"F4ABC"_s);
     EXPECT_EQ(essai.fichiers.Octets(u"F4ABC_DMF.log"_s), log);
-    EXPECT_EQ(essai.etat.indicatif, u"F4ABC"_s);
+    EXPECT_EQ(essai.etat.station.indicatif, u"F4ABC"_s);
 }
 
 TEST_F(Changement, les_logs_d_une_station_neuve_se_creent_vides_par_dessus_un_reste)

@@ -33,9 +33,9 @@ void Ajuste_Police(QLabel &entete, const Liste_Fixe &liste)
 } // namespace
 
 Aff_Contacte::Aff_Contacte(Poste &poste)
-    : Ecran(u"Aff_Contacte"_s, Titre_Contactes(poste.etat.diplome)),
+    : Ecran(u"Aff_Contacte"_s, Titre_Contactes(poste.etat.station.diplome)),
       poste_(poste),
-      code_(poste.etat.diplome),
+      diplome_(poste.etat.station.diplome),
       bande_(Nomme(new Combo(this), u"Bande_A"_s)),
       liste_(Nomme(new Liste_Fixe(this), u"Liste_Acti_Contacte"_s)),
       imprimer_(Bouton(u"Imprimer"_s, u"Imprimer"_s)),
@@ -43,7 +43,7 @@ Aff_Contacte::Aff_Contacte(Poste &poste)
 {
     liste_->Reserve(colonnes_liste, lignes_montrees);
     liste_->setAccessibleName(windowTitle());
-    auto *entete = Nomme(new QLabel(this), u"Label2"_s, Entete_Contactes(code_).toString());
+    auto *entete = Nomme(new QLabel(this), u"Label2"_s, Entete_Contactes(diplome_).toString());
     entete->setTextFormat(Qt::PlainText);
     Ajuste_Police(*entete, *liste_);
 
@@ -56,7 +56,7 @@ Aff_Contacte::Aff_Contacte(Poste &poste)
 
     imprimer_->setEnabled(false);
     enregistrer_->setEnabled(false);
-    if (!Choisit_Une_Bande(code_))
+    if (!Choisit_Une_Bande(diplome_))
         Remplit({});
     Centre(*this);
 }
@@ -78,7 +78,7 @@ QLayout *Aff_Contacte::Choix_De_Bande()
     auto *affiche = Bouton(u"Affiche"_s, u"Afficher"_s);
     auto *rangee = new QHBoxLayout;
     for (QWidget *controle : std::initializer_list<QWidget *>{legende, bande_, affiche}) {
-        controle->setVisible(Choisit_Une_Bande(code_));
+        controle->setVisible(Choisit_Une_Bande(diplome_));
         rangee->addWidget(controle);
     }
     rangee->addStretch();
@@ -103,7 +103,7 @@ QLayout *Aff_Contacte::Boutons()
 void Aff_Contacte::Remplit(const QString &bande)
 {
     liste_->Remplit({});
-    contactes_ = Remplit_Contacte(poste_, code_, bande);
+    contactes_ = Remplit_Contacte(poste_, diplome_, bande);
     liste_->Remplit(contactes_.lignes);
     imprimer_->setEnabled(true);
     enregistrer_->setEnabled(true);

@@ -23,7 +23,7 @@ private:
 
     Poste &poste_;
     /// The award that was current when the screen opened.
-    const QString code_;
+    const std::optional<Diplome> diplome_;
     QComboBox *bande_;
     Liste_Fixe *liste_;
     QPushButton *imprimer_;

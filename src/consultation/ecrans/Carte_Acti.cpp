@@ -21,7 +21,7 @@ Carte_Acti::Carte_Acti(Poste &poste) : Ecran(u"Carte_Acti"_s, u"Carte des dépar
         return texte(nom, QString::number(valeur) + suite);
     };
     auto *comptes = new QHBoxLayout;
-    comptes->addWidget(texte(u"Label1"_s, u"activité " + poste.etat.diplome));
+    comptes->addWidget(texte(u"Label1"_s, u"activité " + Code(poste.etat.station.diplome)));
     comptes->addStretch();
     comptes->addWidget(nombre(u"NB_Dep"_s, contactee.bilan.total, u""));
     comptes->addWidget(texte(u"Label5"_s, u"départements contactés"_s));

@@ -47,7 +47,7 @@ Recherche_Indicatif::Recherche_Indicatif(Poste &poste)
 
 void Recherche_Indicatif::Suit_Le_Log()
 {
-    setWindowTitle(u"Rechercher un QSO du log " + poste_.etat.diplome + u" par ...");
+    setWindowTitle(u"Rechercher un QSO du log " + Code(poste_.etat.station.diplome) + u" par ...");
     titre_->setText(windowTitle());
     qso_effectues_->Remplit({});
 }

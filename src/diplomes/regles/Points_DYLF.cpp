@@ -1,7 +1,7 @@
 #include "diplomes/regles/Points_DYLF.h"
 
 #include "diplomes/regles/Evalue_Fiche.h"
-#include "log/Chemin_Log.h"
+#include "log/Etat_Commun.h"
 #include "log/Ligne_Log.h"
 #include "log/Poste.h"
 #include "plateforme/Dossier.h"
@@ -58,7 +58,7 @@ const Points *Points_De(QStringView ligne)
 
 Lignes_Texte Lit_Log(const Poste &poste)
 {
-    return poste.dossier.Lit_Lignes(Chemin_Log(poste.etat, u"DYLF"));
+    return poste.dossier.Lit_Lignes(poste.etat.station.Log(Diplome::DYLF));
 }
 
 } // namespace

@@ -2,7 +2,6 @@
 
 #include "diplomes/regles/Regle_Challenge.h"
 #include "diplomes/regles/Remplit_Liste.h"
-#include "log/Chemin_Log.h"
 #include "log/Etat_Commun.h"
 #include "log/Poste.h"
 #include "plateforme/Dossier.h"
@@ -49,14 +48,14 @@ constexpr QStringView total_imprime = u"                                        
 
 bool Est_DMF(const Etat_Commun &etat)
 {
-    return etat.diplome == u"Ch_DMF";
+    return etat.station.diplome == Diplome::Ch_DMF;
 }
 
 void Pose_Challenge(Valeurs &valeurs, const Etat_Commun &etat)
 {
     valeurs.Pose(u"Challenge", Est_DMF(etat) ? u"DMF"_s : u"DFCF"_s);
-    valeurs.Pose(u"Annee", Est_DMF(etat) ? etat.annee_ch_dmf : etat.annee_ch_dfcf);
-    valeurs.Pose(u"Annee_DFCF", etat.annee_ch_dfcf);
+    valeurs.Pose(u"Annee", Est_DMF(etat) ? etat.station.annee_ch_dmf : etat.station.annee_ch_dfcf);
+    valeurs.Pose(u"Annee_DFCF", etat.station.annee_ch_dfcf);
 }
 
 Valeurs Valeurs_Du_Challenge(const Etat_Commun &etat)
@@ -68,7 +67,7 @@ Valeurs Valeurs_Du_Challenge(const Etat_Commun &etat)
 
 Lignes_Texte Log_De_L_Annee(const Poste &poste)
 {
-    return poste.dossier.Lit_Lignes(Chemin_Log(poste.etat, Est_DMF(poste.etat) ? u"Ch_DMF" : u"Ch_DFCF"));
+    return poste.dossier.Lit_Lignes(poste.etat.station.Log(Est_DMF(poste.etat) ? Diplome::Ch_DMF : Diplome::Ch_DFCF));
 }
 
 Etat_Niveau Ligne_De_Points(const Compte_A_L_Ecran &compte, int nombre, int points)
@@ -120,7 +119,7 @@ Etat_Liste Charge_Liste_Challenge(const Poste &poste, const Liste_Diplome &liste
 
 constexpr Fiche_Diplome fiche_ch_dfcf = {
     .ecran = u"Diplomes_Ch_DFCF",
-    .code = u"Ch_DFCF",
+    .diplome = Diplome::Ch_DFCF,
     .titre = u"Challenge {Challenge} année {Annee}",
     .entete = u"Challenge {Challenge} année {Annee}",
     .liste = u"Liste_Ch_DFCF",
@@ -131,7 +130,7 @@ constexpr Fiche_Diplome fiche_ch_dfcf = {
 
 constexpr Liste_Diplome liste_ch_dfcf = {
     .ecran = u"Liste_Ch_DFCF",
-    .code = u"Ch_DFCF",
+    .diplome = Diplome::Ch_DFCF,
     .nom = u"Liste_DFCF_Contacte",
     .titre = u"Challenge {Challenge} {Annee}",
     .entete = u"Challenge {Challenge} {Annee}",

@@ -72,7 +72,7 @@ constexpr std::array<Sortie_De_Liste, 3> pages = {{
 
 constexpr Fiche_Diplome fiche_daf = {
     .ecran = u"Diplomes_DAF",
-    .code = u"DAF",
+    .diplome = Diplome::DAF,
     .titre = u"Diplome DAF {Niveau_Liste}",
     .entete = u"Diplome DAF {Niveau_Liste}",
     .liste = u"Liste_DAF",
@@ -83,7 +83,7 @@ constexpr Fiche_Diplome fiche_daf = {
 
 constexpr Liste_Diplome liste_daf = {
     .ecran = u"Liste_DAF",
-    .code = u"DAF",
+    .diplome = Diplome::DAF,
     .nom = u"Liste_DAF_Contacte",
     .titre = u"Diplôme DAF",
     .entete = u"Diplome DAF {Mode_Liste}",

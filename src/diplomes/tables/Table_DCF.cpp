@@ -52,7 +52,7 @@ constexpr std::array<Sortie_De_Liste, 4> pages = {{
 
 constexpr Fiche_Diplome fiche_dcf = {
     .ecran = u"Diplomes_DCF",
-    .code = u"DCF",
+    .diplome = Diplome::DCF,
     .titre = u"Diplomes DCF",
     .entete = u"Diplomes DCF",
     .liste = u"Liste_DCF",
@@ -62,7 +62,7 @@ constexpr Fiche_Diplome fiche_dcf = {
 
 constexpr Liste_Diplome liste_dcf = {
     .ecran = u"Liste_DCF",
-    .code = u"DCF",
+    .diplome = Diplome::DCF,
     .nom = u"Liste_DCF_Contacte",
     .titre = u"Diplôme DCF",
     .entete = u"Diplome DCF {Code_Categorie}",

@@ -53,7 +53,7 @@ constexpr std::array<Sortie_De_Liste, 4> pages = {{
 
 constexpr Fiche_Diplome fiche_dcpf = {
     .ecran = u"Diplomes_DCPF",
-    .code = u"DCPF",
+    .diplome = Diplome::DCPF,
     .titre = u"Diplome DCPF {Niveau_Liste}",
     .entete = u"Diplome DCPF {Niveau_Liste}",
     .liste = u"Liste_DCPF",
@@ -63,7 +63,7 @@ constexpr Fiche_Diplome fiche_dcpf = {
 
 constexpr Liste_Diplome liste_dcpf = {
     .ecran = u"Liste_DCPF",
-    .code = u"DCPF",
+    .diplome = Diplome::DCPF,
     .nom = u"Liste_DCPF_Contacte",
     .titre = u"Diplôme DCPF",
     .entete = u"Diplome DCPF {Categorie_Liste} type Pigeonnier {Niveau_Liste}",

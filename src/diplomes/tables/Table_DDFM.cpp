@@ -4,7 +4,6 @@
 #include "diplomes/regles/Liste_Des_Lignes.h"
 #include "diplomes/regles/Regle_DDFM.h"
 #include "diplomes/tables/Details.h"
-#include "log/Chemin_Log.h"
 #include "log/Etat_Commun.h"
 #include "log/Ligne_Log.h"
 #include "log/Poste.h"
@@ -71,9 +70,9 @@ std::span<const Niveau_Diplome> Niveaux_De_Bande(QStringView bande)
     return bande == u"144 Mhz" || bande == u"432 Mhz" ? bande_haute : une_bande;
 }
 
-Lignes_Texte Log(const Poste &poste, QStringView code)
+Lignes_Texte Log(const Poste &poste, Diplome diplome)
 {
-    return poste.dossier.Lit_Lignes(Chemin_Log(poste.etat, code));
+    return poste.dossier.Lit_Lignes(poste.etat.station.Log(diplome));
 }
 
 Etat_Fiche Charge_Fiche_DDFM(const Poste &poste, const Fiche_Diplome &fiche)
@@ -81,12 +80,12 @@ Etat_Fiche Charge_Fiche_DDFM(const Poste &poste, const Fiche_Diplome &fiche)
     const QString &bande = poste.etat.bande_liste;
     Fiche_Diplome de_la_bande = fiche;
     de_la_bande.niveaux = Niveaux_De_Bande(bande);
-    return Evalue_Fiche(de_la_bande, Compte_DDFM(Log(poste, fiche.code), bande), poste.etat);
+    return Evalue_Fiche(de_la_bande, Compte_DDFM(Log(poste, fiche.diplome), bande), poste.etat);
 }
 
 Etat_Liste Charge_Liste_DDFM(const Poste &poste, const Liste_Diplome &liste)
 {
-    const Lignes_Texte lignes = Log(poste, liste.code);
+    const Lignes_Texte lignes = Log(poste, liste.diplome);
     return Liste_Des_Lignes(liste, Lignes_DDFM(lignes, poste.etat.bande_liste, poste.etat.mode_liste), poste.etat);
 }
 
@@ -101,7 +100,7 @@ void Pose_Bande_De_Nom(Valeurs &valeurs, const Etat_Commun &etat)
 
 constexpr Fiche_Diplome fiche_ddfm = {
     .ecran = u"Diplomes_DDFM",
-    .code = u"DDFM",
+    .diplome = Diplome::DDFM,
     .titre = u"Diplome DDFM {Code_Categorie} {Bande_Liste}",
     .entete = u"Diplome DDFM {Code_Categorie} {Bande_Liste}",
     .liste = u"Liste_DDFM",
@@ -112,7 +111,7 @@ constexpr Fiche_Diplome fiche_ddfm = {
 
 constexpr Liste_Diplome liste_ddfm = {
     .ecran = u"Liste_DDFM",
-    .code = u"DDFM",
+    .diplome = Diplome::DDFM,
     .nom = u"Liste_DDFM_Contacte",
     .titre = u"Diplôme DDFM",
     .entete = u"Diplome DDFM {Bande_Liste} {Mode_Liste}",

@@ -72,7 +72,7 @@ constexpr std::array<Sortie_De_Liste, 4> pages = {{
 
 constexpr Fiche_Diplome fiche_dfcf = {
     .ecran = u"Diplomes_DFCF",
-    .code = u"DFCF",
+    .diplome = Diplome::DFCF,
     .titre = u"Diplomes DFCF bande HF",
     .entete = u"Diplomes DFCF bande HF",
     .liste = u"Liste_DFCF",
@@ -82,7 +82,7 @@ constexpr Fiche_Diplome fiche_dfcf = {
 
 constexpr Liste_Diplome liste_dfcf = {
     .ecran = u"Liste_DFCF",
-    .code = u"DFCF",
+    .diplome = Diplome::DFCF,
     .nom = u"Liste_DFCF_Contacte",
     .titre = u"Diplôme DFCF",
     .entete = u"Diplome DFCF {Bande_Liste} {Code_Categorie}",

@@ -51,7 +51,7 @@ constexpr std::array<Sortie_De_Liste, 2> pages = {{
 
 constexpr Fiche_Diplome fiche_dff = {
     .ecran = u"Diplomes_DFF",
-    .code = u"DFF",
+    .diplome = Diplome::DFF,
     .titre = u"Diplome DFF {Code_Categorie}",
     .entete = u"Diplome DFF {Code_Categorie}",
     .liste = u"Liste_DFF",
@@ -62,7 +62,7 @@ constexpr Fiche_Diplome fiche_dff = {
 
 constexpr Liste_Diplome liste_dff = {
     .ecran = u"Liste_DFF",
-    .code = u"DFF",
+    .diplome = Diplome::DFF,
     .nom = u"Liste_DFF_Contacte",
     .titre = u"Diplôme DFF",
     .entete = u"Diplome DFF {Categorie_Liste} {Code_Categorie}",

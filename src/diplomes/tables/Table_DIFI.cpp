@@ -57,7 +57,7 @@ constexpr std::array<Sortie_De_Liste, 3> pages = {{
 
 constexpr Fiche_Diplome fiche_difi = {
     .ecran = u"Diplomes_DIFI",
-    .code = u"DIFI",
+    .diplome = Diplome::DIFI,
     .titre = u"Diplomes DIFI",
     .entete = u"Diplomes DIFI",
     .liste = u"Liste_DIFI",
@@ -68,7 +68,7 @@ constexpr Fiche_Diplome fiche_difi = {
 
 constexpr Liste_Diplome liste_difi = {
     .ecran = u"Liste_DIFI",
-    .code = u"DIFI",
+    .diplome = Diplome::DIFI,
     .nom = u"Liste_DIFI_Contacte",
     .titre = u"Diplôme DIFI",
     .entete = u"Diplome DIFI {Mode_Liste}",

@@ -33,7 +33,7 @@ constexpr std::array<Sortie_De_Liste, 1> pages = {{
 
 constexpr Fiche_Diplome fiche_difm = {
     .ecran = u"Diplomes_DIFM",
-    .code = u"DIFM",
+    .diplome = Diplome::DIFM,
     .titre = u"Diplomes DIFM",
     .entete = u"Diplomes DIFM",
     .liste = u"Liste_DIFM",
@@ -43,7 +43,7 @@ constexpr Fiche_Diplome fiche_difm = {
 
 constexpr Liste_Diplome liste_difm = {
     .ecran = u"Liste_DIFM",
-    .code = u"DIFM",
+    .diplome = Diplome::DIFM,
     .nom = u"Liste_DIFM_Contacte",
     .titre = u"Diplôme DIFM",
     .entete = u"Diplome DIFM {Code_Categorie}",

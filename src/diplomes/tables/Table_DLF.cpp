@@ -44,7 +44,7 @@ constexpr std::array<Sortie_De_Liste, 2> pages = {{
 
 constexpr Fiche_Diplome fiche_dlf = {
     .ecran = u"Diplomes_DLF",
-    .code = u"DLF",
+    .diplome = Diplome::DLF,
     .titre = u"Diplomes DLF",
     .entete = u"Diplomes DLF",
     .liste = u"Liste_DLF",
@@ -54,7 +54,7 @@ constexpr Fiche_Diplome fiche_dlf = {
 
 constexpr Liste_Diplome liste_dlf = {
     .ecran = u"Liste_DLF",
-    .code = u"DLF",
+    .diplome = Diplome::DLF,
     .nom = u"Liste_DLF_Contacte",
     .titre = u"Diplôme DLF",
     .entete = u"Diplome DLF {Bande_Liste}",

@@ -61,7 +61,7 @@ constexpr std::array<Sortie_De_Liste, 4> pages = {{
 
 constexpr Fiche_Diplome fiche_dmf = {
     .ecran = u"Diplomes_DMF_HF",
-    .code = u"DMF",
+    .diplome = Diplome::DMF,
     .titre = u"Diplomes DMF bande HF",
     .entete = u"Diplomes DMF bande HF",
     .liste = u"Liste_DMF",
@@ -71,7 +71,7 @@ constexpr Fiche_Diplome fiche_dmf = {
 
 constexpr Liste_Diplome liste_dmf = {
     .ecran = u"Liste_DMF",
-    .code = u"DMF",
+    .diplome = Diplome::DMF,
     .nom = u"Liste_DMF_Contacte",
     .titre = u"Diplôme DMF",
     .entete = u"Diplome DMF {Bande_Liste} {Code_Categorie}",

@@ -71,7 +71,7 @@ constexpr std::array<Bouton_De_Liste, 1> boutons = {{{u"ADIF", u"Fichier ADIF", 
 
 constexpr Fiche_Diplome fiche_dohf = {
     .ecran = u"Diplomes_DOHF",
-    .code = u"DOHF",
+    .diplome = Diplome::DOHF,
     .titre = u"Diplome {Libelle_Categorie}",
     .entete = u"Diplome {Libelle_Categorie}",
     .liste = u"Liste_DOHF",
@@ -82,7 +82,7 @@ constexpr Fiche_Diplome fiche_dohf = {
 
 constexpr Liste_Diplome liste_dohf = {
     .ecran = u"Liste_DOHF",
-    .code = u"DOHF",
+    .diplome = Diplome::DOHF,
     .nom = u"Liste_DOHF_Contacte",
     .titre = u"Diplôme DOHF",
     .entete = u"Diplome {Niveau_Liste} {Libelle_Categorie}",

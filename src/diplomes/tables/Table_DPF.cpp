@@ -5,7 +5,6 @@
 #include "diplomes/regles/Regle_DPF.h"
 #include "diplomes/regles/Remplit_Liste.h"
 #include "diplomes/tables/Details.h"
-#include "log/Chemin_Log.h"
 #include "log/Etat_Commun.h"
 #include "log/Poste.h"
 #include "plateforme/Dossier.h"
@@ -80,7 +79,7 @@ Etat_Fiche Charge_Fiche_DPF(const Poste &poste, const Fiche_Diplome &fiche)
 {
     Fiche_Diplome de_la_variante = fiche;
     de_la_variante.niveaux = Niveaux_De_La_Variante(poste.etat);
-    const Lignes_Texte lignes = poste.dossier.Lit_Lignes(Chemin_Log(poste.etat, fiche.code));
+    const Lignes_Texte lignes = poste.dossier.Lit_Lignes(poste.etat.station.Log(fiche.diplome));
     return Evalue_Fiche(de_la_variante, Compte_DPF(lignes, poste.etat), poste.etat);
 }
 
@@ -92,7 +91,7 @@ QString Compte_Cinq_Bandes(const std::vector<QString> &rangs)
 
 Etat_Liste Charge_Liste_DPF(const Poste &poste, const Liste_Diplome &liste)
 {
-    const Lignes_Texte lignes = poste.dossier.Lit_Lignes(Chemin_Log(poste.etat, liste.code));
+    const Lignes_Texte lignes = poste.dossier.Lit_Lignes(poste.etat.station.Log(liste.diplome));
     const std::vector<QString> rangs = Avec_Province(Rangs_Des_Lignes(lignes, poste.etat));
     Etat_Liste etat = Textes_De_Liste(liste, poste.etat);
     if (Est_Sur_Cinq_Bandes(poste.etat)) {
@@ -116,7 +115,7 @@ void Pose_Variante(Valeurs &valeurs, const Etat_Commun &etat)
 
 constexpr Fiche_Diplome fiche_dpf = {
     .ecran = u"Diplomes_DPF",
-    .code = u"DPF",
+    .diplome = Diplome::DPF,
     .titre = u"Diplome DPF {Code_Categorie}",
     .entete = u"Diplome DPF {Code_Categorie}",
     .liste = u"Liste_DPF",
@@ -127,7 +126,7 @@ constexpr Fiche_Diplome fiche_dpf = {
 
 constexpr Liste_Diplome liste_dpf = {
     .ecran = u"Liste_DPF",
-    .code = u"DPF",
+    .diplome = Diplome::DPF,
     .nom = u"Liste_DPF_Contacte",
     .titre = u"Diplôme DPF",
     .entete = u"Diplome DPF {Code_Categorie} {Bande_Liste} {Mode_Liste}",

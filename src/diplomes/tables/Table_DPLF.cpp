@@ -61,7 +61,7 @@ constexpr std::array<Sortie_De_Liste, 3> pages = {{
 
 constexpr Fiche_Diplome fiche_dplf = {
     .ecran = u"Diplomes_DPLF",
-    .code = u"DPLF",
+    .diplome = Diplome::DPLF,
     .titre = u"Diplomes DPLF",
     .entete = u"Diplomes DPLF",
     .liste = u"Liste_DPLF",
@@ -71,7 +71,7 @@ constexpr Fiche_Diplome fiche_dplf = {
 
 constexpr Liste_Diplome liste_dplf = {
     .ecran = u"Liste_DPLF",
-    .code = u"DPLF",
+    .diplome = Diplome::DPLF,
     .nom = u"Liste_DPLF_Contacte",
     .titre = u"Diplôme DPLF",
     .entete = u"Diplome DPLF {Mode_Liste}",

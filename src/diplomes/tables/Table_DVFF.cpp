@@ -54,7 +54,7 @@ constexpr std::array<Bouton_De_Liste, 1> boutons = {{{u"ADIF", u"Fichier ADIF", 
 
 constexpr Fiche_Diplome fiche_dvff = {
     .ecran = u"Diplomes_DVFF",
-    .code = u"DVFF",
+    .diplome = Diplome::DVFF,
     .titre = u"Diplomes DVFF",
     .entete = u"Diplomes DVFF",
     .liste = u"Liste_DVFF",
@@ -64,7 +64,7 @@ constexpr Fiche_Diplome fiche_dvff = {
 
 constexpr Liste_Diplome liste_dvff = {
     .ecran = u"Liste_DVFF",
-    .code = u"DVFF",
+    .diplome = Diplome::DVFF,
     .nom = u"Liste_DVFF_Contacte",
     .titre = u"Liste DVFF",
     .entete = u"Diplome DVFF {Niveau_Liste}",

@@ -60,7 +60,7 @@ constexpr std::array<Colonne, 6> colonnes = {{
 
 constexpr Fiche_Diplome fiche_dylf = {
     .ecran = u"Diplomes_DYLF",
-    .code = u"DYLF",
+    .diplome = Diplome::DYLF,
     .titre = u"Diplomes  DYLF",
     .entete = u"Diplomes  DYLF",
     .liste = u"Liste_DYLF",
@@ -71,7 +71,7 @@ constexpr Fiche_Diplome fiche_dylf = {
 
 constexpr Liste_Diplome liste_dylf = {
     .ecran = u"Liste_DYLF",
-    .code = u"DYLF",
+    .diplome = Diplome::DYLF,
     .nom = u"Liste_DYLF_Contacte",
     .titre = u"Liste DYLF",
     .entete = u"Diplome DYLF {Code_Categorie}",

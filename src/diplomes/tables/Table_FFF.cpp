@@ -55,7 +55,7 @@ constexpr std::array<Sortie_De_Liste, 4> pages = {{
 
 constexpr Fiche_Diplome fiche_fff = {
     .ecran = u"Diplomes_FFF",
-    .code = u"FFF",
+    .diplome = Diplome::FFF,
     .titre = u"Diplomes FFF",
     .entete = u"Diplomes FFF",
     .liste = u"Liste_FFF",
@@ -65,7 +65,7 @@ constexpr Fiche_Diplome fiche_fff = {
 
 constexpr Liste_Diplome liste_fff = {
     .ecran = u"Liste_FFF",
-    .code = u"FFF",
+    .diplome = Diplome::FFF,
     .nom = u"Liste_FFF_Contacte",
     .titre = u"Diplôme FFF",
     .entete = u"Diplome FFF {Code_Categorie}",

@@ -56,7 +56,7 @@ constexpr std::array<Sortie_De_Liste, 5> pages = {{
 
 constexpr Fiche_Diplome fiche_pc = {
     .ecran = u"Diplomes_PC",
-    .code = u"PC",
+    .diplome = Diplome::PC,
     .titre = u"Diplomes PC",
     .entete = u"Diplomes PC",
     .liste = u"Liste_PC",
@@ -66,7 +66,7 @@ constexpr Fiche_Diplome fiche_pc = {
 
 constexpr Liste_Diplome liste_pc = {
     .ecran = u"Liste_PC",
-    .code = u"PC",
+    .diplome = Diplome::PC,
     .nom = u"Liste_PC_Contacte",
     .titre = u"Diplôme PC",
     .entete = u"Diplome {Code_Categorie}",

@@ -7,7 +7,6 @@
 #include "diplomes/tables/Rangs.h"
 #include "listes/Index_Liste.h"
 #include "listes/Table_Recherches.h"
-#include "log/Chemin_Log.h"
 #include "log/Etat_Commun.h"
 #include "log/Poste.h"
 #include "plateforme/Dossier.h"
@@ -42,7 +41,7 @@ std::vector<QStringView> Lignes_Confirmees(const Poste &poste, const Lignes_Text
 
 Etat_Fiche Charge_Fiche_TDC(const Poste &poste, const Fiche_Diplome &fiche)
 {
-    const Lignes_Texte lignes = poste.dossier.Lit_Lignes(Chemin_Log(poste.etat, fiche.code));
+    const Lignes_Texte lignes = poste.dossier.Lit_Lignes(poste.etat.station.Log(fiche.diplome));
     const std::size_t nombre = Lignes_Confirmees(poste, lignes, poste.etat.libelle_categorie).size();
     Niveau_Diplome niveau = niveaux.front();
     niveau.seuil_n = poste.etat.nb_tours_ligne;
@@ -59,7 +58,7 @@ void Copie_Ligne(Etat_Commun &etat)
 
 Etat_Liste Charge_Liste_TDC(const Poste &poste, const Liste_Diplome &liste)
 {
-    const Lignes_Texte lignes = poste.dossier.Lit_Lignes(Chemin_Log(poste.etat, liste.code));
+    const Lignes_Texte lignes = poste.dossier.Lit_Lignes(poste.etat.station.Log(liste.diplome));
     return Liste_Des_Lignes(liste, Lignes_Confirmees(poste, lignes, poste.etat.code_categorie), poste.etat);
 }
 
@@ -67,7 +66,7 @@ Etat_Liste Charge_Liste_TDC(const Poste &poste, const Liste_Diplome &liste)
 
 constexpr Fiche_Diplome fiche_tdc = {
     .ecran = u"Diplomes_TDC",
-    .code = u"TDC",
+    .diplome = Diplome::TDC,
     .titre = u"Diplome TDC {Libelle_Categorie}",
     .entete = u"Diplome TDC {Libelle_Categorie}",
     .liste = u"Liste_TDC",
@@ -81,7 +80,7 @@ constexpr Fiche_Diplome fiche_tdc = {
 // The heading shows the band that another award left behind, or nothing.
 constexpr Liste_Diplome liste_tdc = {
     .ecran = u"Liste_TDC",
-    .code = u"TDC",
+    .diplome = Diplome::TDC,
     .nom = u"Liste_TDC_Contacte",
     .titre = u"Diplôme TDC",
     .entete = u"Diplome TDC {Bande_Liste}",

@@ -56,7 +56,7 @@ constexpr std::array<Sortie_De_Liste, 4> pages = {{
 
 constexpr Fiche_Diplome fiche_wlf = {
     .ecran = u"Diplomes_WLF",
-    .code = u"WLF",
+    .diplome = Diplome::WLF,
     .titre = u"Diplomes WLF",
     .entete = u"Diplomes WLF",
     .liste = u"Liste_WLF",
@@ -66,7 +66,7 @@ constexpr Fiche_Diplome fiche_wlf = {
 
 constexpr Liste_Diplome liste_wlf = {
     .ecran = u"Liste_WLF",
-    .code = u"WLF",
+    .diplome = Diplome::WLF,
     .nom = u"Liste_WLF_Contacte",
     .titre = u"Diplôme WLF",
     .entete = u"Diplome WLF {Code_Categorie}",

@@ -31,7 +31,7 @@ int Colonnes(const Vue_References &vue)
 
 Liste_References::Liste_References(Poste &poste) : Ecran(u"Liste_References"_s, {})
 {
-    const Vue_References vue = Lit_References(poste.dossier, poste.etat.diplome);
+    const Vue_References vue = Lit_References(poste.dossier, poste.etat.station.diplome);
     setWindowTitle(vue.titre);
     auto *liste = Nomme(new Liste_Fixe(this), u"Liste_Ref"_s);
     auto *entete = Nomme(new QLabel(this), u"Entete_Ref"_s, vue.entete);

@@ -65,7 +65,7 @@ ADIF::ADIF(Poste &poste)
 
 void ADIF::Suit_Le_Log()
 {
-    const QString &code = poste_.etat.diplome;
+    const QStringView code = Code(poste_.etat.station.diplome);
     titre_->setText(u"Importer un log "_s + code);
     remplace_->setText(u"Remplacer le log "_s + code);
     ajout_->setText(u"Ajouter le fichier ADIF au log "_s + code);

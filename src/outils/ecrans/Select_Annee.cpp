@@ -21,7 +21,7 @@ Select_Annee::Select_Annee(Poste &poste)
       validation_(Nomme(new QPushButton(this), u"Validation"_s, u"Valider"_s))
 {
     auto *titre = Nomme(new QLabel(this), u"Label7"_s, u"Année du Challenge"_s);
-    auto *genre = Nomme(new QLabel(this), u"L_Activ"_s, poste.etat.genre_challenge);
+    auto *genre = Nomme(new QLabel(this), u"L_Activ"_s, Genre_Challenge(poste).toString());
     auto *annee = Nomme(new QLabel(this), u"Label3"_s, u"Année"_s);
     annee->setBuddy(new_annee_);
     new_annee_->setAccessibleName(annee->text());

@@ -125,7 +125,8 @@ void Multi_QSL::Recherche()
     Colore(recherche_, couleur_finie);
     Colore(indicatif_, couleur_courante);
     liste_qso_->Remplit({});
-    Cartes_Attendues cartes = Cherche_Cartes(poste_, diplome_->currentText(), indicatif_->text());
+    Cartes_Attendues cartes =
+        Cherche_Cartes(poste_, static_cast<Diplome>(diplome_->currentIndex()), indicatif_->text());
     log_ = std::move(cartes.log);
     liste_qso_->Remplit(std::move(cartes.lignes));
     enregistre_->setEnabled(true);
