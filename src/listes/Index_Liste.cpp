@@ -2,14 +2,20 @@
 
 #include "plateforme/Dossier.h"
 
-Index_Liste::Index_Liste(const Recherche &recherche, const Dossier &dossier) : recherche_(recherche), dossier_(dossier)
+Index_Liste::Index_Liste(const Recherche &recherche, const Dossier &dossier) : recherche_(recherche), dossier_(&dossier)
+{
+}
+
+Index_Liste::Index_Liste(const Recherche &recherche, Lignes_Texte lignes)
+    : recherche_(recherche),
+      lecteur_(std::in_place, recherche.lecture, std::move(lignes))
 {
 }
 
 Issue_Recherche Index_Liste::Cherche(QStringView ref)
 {
     if (!lecteur_)
-        lecteur_.emplace(recherche_.lecture, dossier_.Lit_Lignes(recherche_.lecture.fichier.toString()));
+        lecteur_.emplace(recherche_.lecture, dossier_->Lit_Lignes(recherche_.lecture.fichier.toString()));
     const std::optional<QString> cle = recherche_.cle_cherchee(ref);
     // A reference without a key still walks the list to its end: a faulty line there is its failure too.
     const std::optional<Fiche_Liste> fiche = Trouve(cle);

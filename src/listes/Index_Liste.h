@@ -14,6 +14,8 @@ class Dossier;
 class Index_Liste {
 public:
     Index_Liste(const Recherche &recherche, const Dossier &dossier);
+    /// Over a list that was read before.
+    Index_Liste(const Recherche &recherche, Lignes_Texte lignes);
 
     Issue_Recherche Cherche(QStringView ref);
 
@@ -21,7 +23,7 @@ private:
     std::optional<Fiche_Liste> Trouve(const std::optional<QString> &cherchee);
 
     Recherche recherche_;
-    const Dossier &dossier_;
+    const Dossier *dossier_ = nullptr; ///< where the list is still to be read
     std::optional<Lecteur_Liste> lecteur_;
     std::unordered_map<QString, Fiche_Liste> fiches_;
     std::optional<Fiche_Liste> derniere_;
