@@ -1,5 +1,6 @@
 #include "consultation/Colorie_Carte.h"
 
+#include "log/Departement.h"
 #include "log/Etat_Commun.h"
 #include "log/Ligne_Log.h"
 #include "log/Poste.h"
@@ -12,8 +13,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int dep_2a = 96;
-constexpr int dep_2b = 97;
 constexpr int departements_en_tout = 96;
 /// The department with the two blanks behind it.
 constexpr Champ departement{14, 4};
@@ -28,15 +27,6 @@ Couleurs_Carte Carte_Vierge()
 bool Commence_Par_Un_Chiffre(QStringView texte)
 {
     return !texte.isEmpty() && texte.front() >= u'0' && texte.front() <= u'9';
-}
-
-int Numero_Dep(QStringView dpt)
-{
-    if (dpt == u"2a" || dpt == u"2A")
-        return dep_2a;
-    if (dpt == u"2b" || dpt == u"2B")
-        return dep_2b;
-    return Entier(dpt);
 }
 
 } // namespace
@@ -57,7 +47,7 @@ Couleurs_Carte Colorie(const Lignes_Texte &log)
         const QStringView dpt = Lit_Rogne(ligne, departement);
         if (!Commence_Par_Un_Chiffre(dpt))
             continue;
-        Couleur_Dep &couleur = couleurs[Indice(Numero_Dep(dpt) - 1, nombre_dep)];
+        Couleur_Dep &couleur = couleurs[Indice(Entier(Departement_Replie(dpt)) - 1, nombre_dep)];
         if (Est_Confirme(ligne))
             couleur = Couleur_Dep::Confirme;
         else if (couleur != Couleur_Dep::Confirme)

@@ -1,5 +1,8 @@
 #include "diplomes/ADIF_Canal.h"
 
+#include "diplomes/ADIF_Ouvrages.h"
+#include "diplomes/Lit_Sources.h"
+#include "diplomes/regles/Canal.h"
 #include "diplomes/regles/Enregistrement_ADIF.h"
 #include "log/Champ.h"
 #include "log/Etat_Commun.h"
@@ -30,17 +33,6 @@ constexpr Champ Nom{76, 30};
 /// The reference in a row of the board, as far as it is compared.
 constexpr Champ ref_du_rang{8, 5};
 
-QString Entete(const QString &indicatif)
-{
-    const std::array<QString, 6> lignes = {
-        u"Vorlain_DOHF"_s, QString(), u"Exportation du log de la station "_s + indicatif + u" au format ADIF",
-        QString(),         QString(), u"<eoh>"_s};
-    QString entete;
-    for (const QString &ligne : lignes)
-        entete += ligne + fin_de_ligne;
-    return entete;
-}
-
 /// The first line of each reference.
 std::map<QStringView, QStringView> Premieres_Lignes(const Lignes_Texte &lignes)
 {
@@ -70,11 +62,10 @@ QString Ligne_ADIF_Canal(QStringView ligne_log)
 
 void ADIF_Challenge(Poste &poste, const Etat_Challenge &etat, QStringView palier)
 {
-    const QString &indicatif = poste.etat.station.indicatif;
-    const QString nom = indicatif + u" Diplome " + etat.entete + u' ' + palier + u".adi";
-    const Lignes_Texte lignes = poste.dossier.Lit_Lignes(poste.etat.station.Log(Diplome::DOHF));
+    const QString nom = poste.etat.station.indicatif + u" Diplome " + etat.entete + u' ' + palier + u".adi";
+    const Lignes_Texte lignes = Lit_Sources(poste, sources_du_canal).log;
     const std::map<QStringView, QStringView> premieres = Premieres_Lignes(lignes);
-    QString texte = Entete(indicatif);
+    QString texte = Entete_ADIF(poste.etat, sources_du_canal.diplome);
     for (const QString &rang : etat.rangs)
         if (const auto place = premieres.find(Lit_Rogne(rang, ref_du_rang)); place != premieres.end())
             texte += Ligne_ADIF_Canal(place->second) + fin_de_ligne;

@@ -1,6 +1,8 @@
 #pragma once
 
-#include "diplomes/Challenge.h"
+#include "diplomes/modele/Etat_Challenge.h"
+
+struct Poste;
 
 /// The ADIF record of a log line of a canal challenge, without its line end. Its columns are those of an earlier layout
 /// of the log, four less from the date on: on lines of today most values are pieces of two fields.

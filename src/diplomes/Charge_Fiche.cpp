@@ -1,21 +1,14 @@
 #include "diplomes/Charge_Fiche.h"
 
-#include "diplomes/regles/Compte.h"
-#include "diplomes/regles/Evalue_Fiche.h"
+#include "diplomes/Lit_Sources.h"
+#include "diplomes/regles/Evalue.h"
 #include "log/Etat_Commun.h"
 #include "log/Poste.h"
-#include "plateforme/Dossier.h"
 #include "plateforme/Ecrans.h"
-
-Etat_Fiche Charge_Par_Niveaux(const Poste &poste, const Fiche_Diplome &fiche)
-{
-    const Lignes_Texte lignes = poste.dossier.Lit_Lignes(poste.etat.station.Log(fiche.diplome));
-    return Evalue_Fiche(fiche, Compte(fiche.regles, lignes, poste.etat), poste.etat);
-}
 
 Etat_Fiche Charge_Fiche(const Poste &poste, const Fiche_Diplome &fiche)
 {
-    return fiche.charge(poste, fiche);
+    return Evalue_Fiche(fiche, Lit_Sources(poste, fiche.sources), poste.etat);
 }
 
 void Presse_Bouton(Poste &poste, const Fiche_Diplome &fiche, QStringView bouton)

@@ -1,6 +1,8 @@
 #pragma once
 
-#include "diplomes/Fiche_Diplome.h"
+#include "diplomes/modele/Fiche_Diplome.h"
+
+struct Poste;
 
 /// What the sheet shows now. Throws Erreur_Execution for an absent log, and for a department that is no number from 0
 /// to 97 where departments are counted.

@@ -1,6 +1,8 @@
 #pragma once
 
-#include "diplomes/Liste_Diplome.h"
+#include "diplomes/modele/Liste_Diplome.h"
+
+struct Poste;
 
 /// What the list shows now. Throws Erreur_Execution for an absent log, and for a line of the tier with a department
 /// that the award's list cannot take.

@@ -1,5 +1,6 @@
 #include "diplomes/Sorties_Liste.h"
 
+#include "diplomes/regles/Remplit_Liste.h"
 #include "log/Etat_Commun.h"
 #include "log/Poste.h"
 #include "plateforme/Boites.h"
@@ -11,8 +12,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr QStringView signature_de_fichier = u"                        Vorlain {AAAA}";
-constexpr QStringView signature_de_page = u"                     Vorlain {AAAA}";
+constexpr Gabarit_Sortie signature_de_fichier = u"                        Vorlain {AAAA}";
+constexpr Gabarit_Sortie signature_de_page = u"                     Vorlain {AAAA}";
 
 std::vector<QString> Lignes_De_Tete(const Sortie_De_Liste *sortie, const Valeurs &valeurs)
 {
@@ -28,11 +29,9 @@ void Ajoute(std::vector<QString> &lignes, const std::vector<QString> &suite)
 
 Valeurs Valeurs_De_Sortie(const Poste &poste, const Liste_Diplome &liste)
 {
-    Valeurs valeurs(poste.etat);
+    Valeurs valeurs = Valeurs_De_Liste(liste, poste.etat);
     const QDate jour = poste.horloge.Locale().date();
     valeurs.Pose_Jour(jour, Date_Courte(jour));
-    if (liste.valeurs)
-        liste.valeurs(valeurs, poste.etat);
     return valeurs;
 }
 

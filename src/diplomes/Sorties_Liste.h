@@ -1,6 +1,6 @@
 #pragma once
 
-#include "diplomes/Liste_Diplome.h"
+#include "diplomes/modele/Liste_Diplome.h"
 
 struct Poste;
 

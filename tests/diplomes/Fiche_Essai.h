@@ -2,13 +2,13 @@
 
 #include "Log_Essai.h"
 #include "diplomes/regles/Compte.h"
-#include "diplomes/regles/Evalue_Fiche.h"
+#include "diplomes/regles/Fiche_Des_Comptes.h"
 
 #include <stdexcept>
 
 inline Etat_Fiche Etat_De(const Fiche_Diplome &fiche, const Lignes_Essai &lignes, const Etat_Commun &etat = {})
 {
-    return Evalue_Fiche(fiche, Compte(fiche.regles, En_Texte(lignes), etat), etat);
+    return Fiche_Des_Comptes(fiche, Compte(fiche.regles, En_Texte(lignes), etat), etat);
 }
 
 inline const Etiquette &Etiquette_De(Etat_Fiche &etat, QStringView nom)

@@ -76,7 +76,7 @@ TEST(ADIF_DOHF, des_references_bien_formees_ne_laissent_que_l_en_tete)
 {
     Poste_Barrages essai({Ouvrage(u"45BA102"_s), Ouvrage(u"2ABA001"_s)});
     Etat_Liste etat = Charge_Liste(essai.poste, liste_dohf);
-    ADIF_DOHF(essai.poste, liste_dohf, etat);
+    ADIF_Ouvrages(essai.poste, liste_dohf, etat);
     const QString nom = u"F9ZZY Diplome Niveau 1 Barrages le 15_11_26.adi"_s;
     EXPECT_EQ(essai.fichiers.Octets(nom), entete_dohf);
     EXPECT_EQ(essai.boites.messages, std::vector<QString>{u"Le fichier a été enregistré sous le nom : "_s + nom});
@@ -87,7 +87,7 @@ TEST(ADIF_DOHF, la_categorie_est_cherchee_a_la_place_du_departement)
 {
     Poste_Barrages essai({Ouvrage(u"BA102"_s), Ouvrage(u"45BA102"_s), Ouvrage(u"BAEC001"_s, u"*"_s)});
     Etat_Liste etat = Charge_Liste(essai.poste, liste_dohf);
-    ADIF_DOHF(essai.poste, liste_dohf, etat);
+    ADIF_Ouvrages(essai.poste, liste_dohf, etat);
     const QByteArray octets = essai.fichiers.Octets(u"F9ZZY Diplome Niveau 1 Barrages le 15_11_26.adi"_s);
     Compare_Attendu(u"barrages.adi"_s, octets);
     EXPECT_EQ(octets.count("<eor>"), 2);
@@ -98,9 +98,9 @@ TEST(ADIF_DOHF, une_barre_devient_un_souligne_aussi_a_l_ecran_et_deux_fois_donne
     Poste_Barrages essai({Ouvrage(u"33PT010"_s)});
     essai.etat.libelle_categorie = u"Ponts / Ponts Cannaux / Tunnels"_s;
     Etat_Liste etat = Charge_Liste(essai.poste, liste_dohf);
-    ADIF_DOHF(essai.poste, liste_dohf, etat);
+    ADIF_Ouvrages(essai.poste, liste_dohf, etat);
     EXPECT_EQ(etat.entete, u"Diplome Niveau 1 Ponts _ Ponts Cannaux _ Tunnels"_s);
-    ADIF_DOHF(essai.poste, liste_dohf, etat);
+    ADIF_Ouvrages(essai.poste, liste_dohf, etat);
     EXPECT_EQ(etat.entete, u"Diplome Niveau 1 Ponts _ Ponts Cannaux _ Tunnels"_s);
     const QString nom = u"F9ZZY Diplome Niveau 1 Ponts _ Ponts Cannaux _ Tunnels le 15_11_26.adi"_s;
     EXPECT_EQ(essai.fichiers.Fichiers(), (QStringList{nom, u"F9ZZY_DOHF.log"_s}));
@@ -113,7 +113,7 @@ TEST(ADIF_DOHF, le_log_est_relu_et_les_rangs_ne_comptent_pas)
     Poste_Barrages essai({Ouvrage(u"45BA102"_s)});
     Etat_Liste etat = Charge_Liste(essai.poste, liste_dohf);
     essai.fichiers.Pose(u"F9ZZY_DOHF.log"_s, En_Octets({Ouvrage(u"BA999"_s)}));
-    ADIF_DOHF(essai.poste, liste_dohf, etat);
+    ADIF_Ouvrages(essai.poste, liste_dohf, etat);
     EXPECT_TRUE(essai.fichiers.Octets(u"F9ZZY Diplome Niveau 1 Barrages le 15_11_26.adi"_s).contains("<sig:5>BA999 "));
 }
 
@@ -122,7 +122,7 @@ TEST(ADIF_DOHF, un_log_qui_n_est_plus_la_est_l_echec_et_rien_n_est_ecrit)
     Poste_Barrages essai({});
     Etat_Liste etat = Charge_Liste(essai.poste, liste_dohf);
     essai.dossier.Supprime(u"F9ZZY_DOHF.log"_s);
-    EXPECT_TRUE(Echec([&] { ADIF_DOHF(essai.poste, liste_dohf, etat); }));
+    EXPECT_TRUE(Echec([&] { ADIF_Ouvrages(essai.poste, liste_dohf, etat); }));
     EXPECT_EQ(essai.fichiers.Fichiers(), QStringList());
     EXPECT_TRUE(essai.boites.messages.empty());
 }

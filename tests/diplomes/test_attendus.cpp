@@ -1,5 +1,6 @@
 #include "Attendus.h"
 #include "Fiche_Essai.h"
+#include "diplomes/Affiche_Option.h"
 #include "diplomes/Charge_Fiche.h"
 #include "diplomes/Charge_Liste.h"
 #include "diplomes/Sorties_Liste.h"
@@ -64,7 +65,7 @@ class Award {
 public:
     Award(const Fiche_Diplome &fiche, const Liste_Diplome &liste) : fiche_(fiche), liste_(liste)
     {
-        essai_.fichiers.Pose(u"F9ZZY_%1.log"_s.arg(Code(fiche.diplome)), En_Octets(Log_De_Demonstration()));
+        essai_.fichiers.Pose(u"F9ZZY_%1.log"_s.arg(Code(fiche.sources.diplome)), En_Octets(Log_De_Demonstration()));
     }
     void Choisit(const Option_Diplome &option) { Affiche_Option(essai_.poste, option); }
     void Raconte()
@@ -113,7 +114,7 @@ void Compare(const Fiche_Diplome &fiche, const Liste_Diplome &liste, const Choix
                 award.Choisit(option);
                 award.Raconte();
             }
-    Compare_Attendu(Code(fiche.diplome).toString() + u".txt"_s, award.Recit_Entier());
+    Compare_Attendu(Code(fiche.sources.diplome).toString() + u".txt"_s, award.Recit_Entier());
 }
 
 } // namespace

@@ -1,7 +1,8 @@
 #include "Attendus.h"
 #include "Log_Essai.h"
 #include "diplomes/ADIF_Canal.h"
-#include "diplomes/Challenge.h"
+#include "diplomes/Charge_Challenge.h"
+#include "diplomes/regles/Canal.h"
 #include "plateforme/Erreur_Execution.h"
 
 #include <gtest/gtest.h>

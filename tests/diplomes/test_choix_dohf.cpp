@@ -1,4 +1,5 @@
 #include "Log_Essai.h"
+#include "diplomes/Affiche_Option.h"
 #include "diplomes/tables/Tables.h"
 
 #include <gtest/gtest.h>

@@ -1,7 +1,7 @@
 #include "Attendus.h"
 #include "Charge_Essai.h"
-#include "diplomes/Choix_Diplome.h"
-#include "diplomes/regles/Evalue_Fiche.h"
+#include "diplomes/Affiche_Option.h"
+#include "diplomes/regles/Fiche_Des_Comptes.h"
 #include "diplomes/regles/Liste_DPF.h"
 #include "diplomes/regles/Provinces.h"
 #include "diplomes/regles/Regle_DPF.h"
@@ -328,7 +328,8 @@ TEST(Fiche_DPF, cinq_bandes_et_109_montrent_un_QSO_et_aucune_bande)
     Fiche_Diplome fiche = fiche_dpf;
     fiche.niveaux = {&niveau, 1};
     const std::array comptes = {Comptes{.n = 109, .d = 5}};
-    EXPECT_EQ(Texte_De(Evalue_Fiche(fiche, comptes, {}), u"Label18"), u"il vous manque 1 QSO confirmés et 0 bandes"_s);
+    EXPECT_EQ(Texte_De(Fiche_Des_Comptes(fiche, comptes, {}), u"Label18"),
+              u"il vous manque 1 QSO confirmés et 0 bandes"_s);
 }
 
 TEST(Liste_DPF, une_province_a_un_rang_le_premier_dans_l_ordre)

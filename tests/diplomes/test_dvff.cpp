@@ -167,7 +167,7 @@ TEST(ADIF_DVFF, toutes_les_lignes_sont_ecrites_confirmees_ou_non)
 {
     Poste_DVFF essai(Douze_Lignes());
     Etat_Liste liste = essai.Liste();
-    ADIF_DVFF(essai.poste, liste_dvff, liste);
+    ADIF_Ouvrages(essai.poste, liste_dvff, liste);
     const QString nom = u"F9ZZY Diplome DVFF Niveau 1 le 15_11_26.adi"_s;
     const QByteArray octets = essai.fichiers.Octets(nom);
     EXPECT_EQ(liste.rangs.size(), 9U);

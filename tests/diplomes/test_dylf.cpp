@@ -2,6 +2,7 @@
 #include "Fiche_Essai.h"
 #include "diplomes/Charge_Fiche.h"
 #include "diplomes/Charge_Liste.h"
+#include "diplomes/Charge_Scores_DYLF.h"
 #include "diplomes/Sorties_Liste.h"
 #include "diplomes/regles/Points_DYLF.h"
 #include "diplomes/tables/Tables.h"

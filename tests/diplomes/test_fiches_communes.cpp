@@ -1,4 +1,5 @@
 #include "Fiche_Essai.h"
+#include "diplomes/Affiche_Option.h"
 #include "diplomes/Charge_Fiche.h"
 #include "diplomes/regles/Lignes_Retenues.h"
 #include "diplomes/tables/Tables.h"

@@ -1,4 +1,5 @@
 #include "Log_Essai.h"
+#include "diplomes/Affiche_Option.h"
 #include "diplomes/Charge_Fiche.h"
 #include "diplomes/Charge_Liste.h"
 #include "diplomes/Sorties_Liste.h"

@@ -103,7 +103,7 @@ Etat_Fiche Fiche_Apres(const Niveau_Attendu &attendu, int nombre)
 {
     Poste_Essai essai;
     essai.etat.code_categorie = attendu.categorie;
-    essai.fichiers.Pose(u"F9ZZY_%1.log"_s.arg(Code(attendu.fiche->diplome)),
+    essai.fichiers.Pose(u"F9ZZY_%1.log"_s.arg(Code(attendu.fiche->sources.diplome)),
                         En_Octets(Lignes_De(attendu.ligne, nombre)));
     return Charge_Fiche(essai.poste, *attendu.fiche);
 }
@@ -111,7 +111,7 @@ Etat_Fiche Fiche_Apres(const Niveau_Attendu &attendu, int nombre)
 std::string Nom_D_Essai(const ::testing::TestParamInfo<Niveau_Attendu> &essai)
 {
     const Niveau_Attendu &attendu = essai.param;
-    return QString(Code(attendu.fiche->diplome) + u'_' + attendu.categorie + u'_' + attendu.etat).toStdString();
+    return QString(Code(attendu.fiche->sources.diplome) + u'_' + attendu.categorie + u'_' + attendu.etat).toStdString();
 }
 
 class Seuils : public ::testing::TestWithParam<Niveau_Attendu> {};

@@ -1,3 +1,5 @@
+#include "diplomes/regles/Evalue.h"
+#include "diplomes/regles/Remplit_Liste.h"
 #include "diplomes/tables/Tables.h"
 #include "faux/Impression.h"
 #include "log/Etat_Commun.h"
@@ -10,20 +12,15 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// The values that every text of the tables may name.
-Valeurs Toutes_Les_Valeurs()
+/// Nothing that a screen shows has a brace left.
+void Est_Compose(const QString &texte)
 {
-    Valeurs valeurs{Etat_Commun()};
-    valeurs.Pose_Jour(QDate(2026, 11, 15), u"15/11/2026"_s);
-    for (const QStringView nom :
-         {u"n", u"d", u"c", u"seuil_n", u"reste_n", u"reste_d", u"manque_n", u"manque_d", u"Challenge", u"Annee"})
-        valeurs.Pose(nom, 7);
-    return valeurs;
+    EXPECT_FALSE(texte.contains(u'{')) << texte.toStdString();
 }
 
-void Est_Compose(QStringView texte)
+void Est_Compose(const Etiquette &etiquette)
 {
-    EXPECT_FALSE(Compose(texte, Toutes_Les_Valeurs()).contains(u'{')) << texte.toString().toStdString();
+    Est_Compose(etiquette.texte);
 }
 
 QSet<QString> Boutons(const Fiche_Diplome &fiche)
@@ -39,16 +36,38 @@ QSet<QString> Boutons(const Fiche_Diplome &fiche)
 TEST(Tables, chaque_texte_d_une_fiche_nomme_des_valeurs_connues)
 {
     for (const Fiche_Diplome *fiche : Fiches()) {
-        Est_Compose(fiche->titre);
-        Est_Compose(fiche->entete);
-        for (const Niveau_Diplome &niveau : fiche->niveaux) {
-            for (const QStringView texte : {niveau.attente, niveau.atteint, niveau.manque})
-                Est_Compose(texte);
-            for (const Texte_Detail &detail : niveau.detail)
-                for (const QStringView texte : {detail.manque, detail.atteint, detail.inchange})
-                    Est_Compose(texte);
+        const Etat_Fiche etat = Evalue_Fiche(*fiche, {}, {});
+        Est_Compose(etat.titre);
+        Est_Compose(etat.entete);
+        for (const Etat_Niveau &niveau : etat.niveaux) {
+            Est_Compose(niveau.etat);
+            for (const Etiquette &etiquette : niveau.detail)
+                Est_Compose(etiquette);
         }
     }
+}
+
+TEST(Tables, chaque_texte_d_une_liste_nomme_des_valeurs_connues)
+{
+    for (const Liste_Diplome *liste : Listes()) {
+        const Etat_Liste etat = Evalue_Liste(*liste, {}, {});
+        for (const QString &texte : {etat.titre, etat.entete, etat.compte})
+            Est_Compose(texte);
+        Valeurs valeurs = Valeurs_De_Liste(*liste, {});
+        valeurs.Pose_Jour(QDate(2026, 11, 15), u"15/11/2026"_s);
+        Est_Compose(Compose(liste->selecteur, valeurs));
+        for (const auto sorties : {liste->fichiers, liste->pages})
+            for (const Sortie_De_Liste &sortie : sorties) {
+                Est_Compose(Compose(sortie.fichier, valeurs));
+                Est_Compose(Compose(sortie.titre, valeurs));
+            }
+    }
+}
+
+TEST(Tables, les_noms_que_tout_texte_peut_nommer_ont_une_valeur)
+{
+    for (const std::u16string_view nom : noms_communs)
+        EXPECT_NE(Valeurs(Etat_Commun()).Cherche(nom), nullptr) << QStringView(nom).toString().toStdString();
 }
 
 TEST(Tables, les_noms_d_une_fiche_sont_uniques)
@@ -70,7 +89,7 @@ TEST(Tables, un_niveau_n_ouvre_que_des_boutons_de_sa_fiche_et_a_une_regle)
 {
     for (const Fiche_Diplome *fiche : Fiches())
         for (const Niveau_Diplome &niveau : fiche->niveaux) {
-            const bool de_ses_regles = fiche->charge == Charge_Par_Niveaux;
+            const bool de_ses_regles = !fiche->evalue;
             EXPECT_TRUE(!de_ses_regles || niveau.regle < qMax(fiche->regles.size(), std::size_t{1}));
             for (const QStringView bouton : niveau.ouvre)
                 EXPECT_TRUE(bouton.isEmpty() || Boutons(*fiche).contains(bouton.toString()));

@@ -1,6 +1,6 @@
 #include "Attendus.h"
 #include "Charge_Essai.h"
-#include "diplomes/Choix_Diplome.h"
+#include "diplomes/Affiche_Option.h"
 #include "plateforme/Erreur_Execution.h"
 
 #include <map>

@@ -65,7 +65,7 @@ TEST(Ecrans_Diplomes, chaque_fiche_montre_les_noms_de_sa_table)
     Station_Remplie station;
     for (const QString &code : Codes_Communs())
         for (const Fiche_Diplome *fiche : Fiches()) {
-            if (Code(fiche->diplome) != code)
+            if (Code(fiche->sources.diplome) != code)
                 continue;
             const std::unique_ptr<QWidget> ecran = station.Ouvre_Ecran(fiche->ecran.toString());
             EXPECT_EQ(conduite::Trouve<QLabel>(*ecran, u"Label2"_s)->text(), ecran->windowTitle());

@@ -78,7 +78,7 @@ TEST(Impression_De_Liste, chaque_rang_tient_en_neuf_points_dans_une_page_A4)
         for (const QString &categorie : {u"de Base"_s, u"Excellence"_s}) {
             essai.etat.code_categorie = categorie;
             for (const Liste_Diplome *liste : Listes())
-                if (Code(liste->diplome) == code) {
+                if (Code(liste->sources.diplome) == code) {
                     Imprime_Liste(essai.poste, *liste, Charge_Liste(essai.poste, *liste));
                     const std::vector<QString> &page = essai.imprimante.documents.back();
                     EXPECT_DOUBLE_EQ(Mise_En_Page(imprimante, page).Police().pointSizeF(), 9) << code.toStdString();

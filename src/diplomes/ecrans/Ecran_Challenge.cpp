@@ -1,6 +1,7 @@
 #include "diplomes/ecrans/Ecran_Challenge.h"
 
 #include "diplomes/ADIF_Canal.h"
+#include "diplomes/Charge_Challenge.h"
 #include "diplomes/ecrans/Etiquettes.h"
 #include "ecrans/Couleurs.h"
 #include "ecrans/Liste_Fixe.h"

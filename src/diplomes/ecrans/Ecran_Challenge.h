@@ -1,9 +1,10 @@
 #pragma once
 
-#include "diplomes/Challenge.h"
+#include "diplomes/modele/Etat_Challenge.h"
 #include "ecrans/Ecran.h"
 
 class QGridLayout;
+struct Poste;
 
 /// The board of a canal: the works contacted and the four steps. Filled when it is made.
 class Ecran_Challenge : public Ecran {

@@ -1,5 +1,6 @@
 #include "diplomes/ecrans/Ecran_Choix.h"
 
+#include "diplomes/Affiche_Option.h"
 #include "diplomes/ecrans/Etiquettes.h"
 #include "ecrans/Combo.h"
 #include "ecrans/Nomme.h"

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "diplomes/Choix_Diplome.h"
+#include "diplomes/modele/Choix_Diplome.h"
 #include "ecrans/Ecran.h"
 
 #include <map>
@@ -8,6 +8,7 @@
 class QButtonGroup;
 class QComboBox;
 class QWidget;
+struct Poste;
 
 /// The choice screen of any award that is entered through one. It stays open behind the sheet.
 class Ecran_Choix : public Ecran {

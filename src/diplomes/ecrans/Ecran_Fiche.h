@@ -1,9 +1,10 @@
 #pragma once
 
-#include "diplomes/Fiche_Diplome.h"
+#include "diplomes/modele/Fiche_Diplome.h"
 #include "ecrans/Ecran.h"
 
 class QGridLayout;
+struct Poste;
 
 /// The progress sheet of any award: worked out when it is made, and not again while it is open.
 class Ecran_Fiche : public Ecran {

@@ -1,5 +1,6 @@
 #include "diplomes/ecrans/Ecran_Liste.h"
 
+#include "diplomes/ADIF_Ouvrages.h"
 #include "diplomes/Charge_Liste.h"
 #include "diplomes/Sorties_Liste.h"
 #include "diplomes/ecrans/Etiquettes.h"
@@ -74,9 +75,9 @@ QBoxLayout *Ecran_Liste::Boutons()
     auto *boutons = new QHBoxLayout;
     Ajoute_Bouton(boutons, u"Imprimer"_s, u"Imprimer"_s, [this] { Imprime_Liste(poste_, liste_, etat_); });
     Ajoute_Bouton(boutons, u"Enregistrer"_s, u"Enregistrer"_s, [this] { Enregistre_Liste(poste_, liste_, etat_); });
-    for (const Bouton_De_Liste &bouton : liste_.boutons)
-        Ajoute_Bouton(boutons, bouton.nom.toString(), bouton.texte.toString(), [this, &bouton] {
-            bouton.presse(poste_, liste_, etat_);
+    if (liste_.adif)
+        Ajoute_Bouton(boutons, u"ADIF"_s, u"Fichier ADIF"_s, [this] {
+            ADIF_Ouvrages(poste_, liste_, etat_);
             Montre_Etat();
         });
     boutons->addStretch();

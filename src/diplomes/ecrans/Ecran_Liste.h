@@ -1,6 +1,6 @@
 #pragma once
 
-#include "diplomes/Liste_Diplome.h"
+#include "diplomes/modele/Liste_Diplome.h"
 #include "ecrans/Ecran.h"
 
 #include <functional>
@@ -8,6 +8,7 @@
 class Liste_Fixe;
 class QBoxLayout;
 class QLabel;
+struct Poste;
 
 /// The list of any award: filled when it is made, and not again while it is open. It is saved and printed under the
 /// texts that hold when its buttons are pressed.

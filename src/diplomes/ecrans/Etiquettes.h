@@ -1,6 +1,6 @@
 #pragma once
 
-#include "diplomes/Etat_Fiche.h"
+#include "diplomes/modele/Etat_Fiche.h"
 
 class QLabel;
 

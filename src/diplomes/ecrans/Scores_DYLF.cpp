@@ -1,5 +1,6 @@
 #include "diplomes/ecrans/Scores_DYLF.h"
 
+#include "diplomes/Charge_Scores_DYLF.h"
 #include "ecrans/Nomme.h"
 
 #include <QBoxLayout>

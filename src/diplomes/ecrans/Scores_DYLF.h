@@ -1,7 +1,8 @@
 #pragma once
 
-#include "diplomes/regles/Points_DYLF.h"
 #include "ecrans/Ecran.h"
+
+struct Poste;
 
 /// The score table of the female operators: the lines and the points of each band class and mode, and their sums. It is
 /// worked out when it is made, and not again while it is open.

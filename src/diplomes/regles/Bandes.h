@@ -1,5 +1,7 @@
 #pragma once
 
+#include "diplomes/modele/Classe_Bande.h"
+
 #include <QStringView>
 
 #include <array>
@@ -16,7 +18,7 @@ bool Est_Bande_HF(QStringView bande);
 // The band class of a line: a band in no class keeps the class of the line before it, so a list can hold rows that the
 // sheet does not count.
 
-/// "HF" or "VHF", else `avant`.
-QStringView Classe_HF_VHF(QStringView bande, QStringView avant);
-/// "HF", "VHF" or "UHF", else `avant`.
-QStringView Classe_HF_VHF_UHF(QStringView bande, QStringView avant);
+/// HF or VHF, else `avant`.
+Classe_Bande Classe_HF_VHF(QStringView bande, Classe_Bande avant);
+/// HF, VHF or UHF, else `avant`.
+Classe_Bande Classe_HF_VHF_UHF(QStringView bande, Classe_Bande avant);

@@ -1,18 +1,10 @@
 #include "diplomes/regles/Departements.h"
 
 #include "log/Champ.h"
+#include "log/Departement.h"
 #include "plateforme/Entier.h"
 
 #include <algorithm>
-
-QStringView Departement_Replie(QStringView dpt)
-{
-    if (dpt == u"2a" || dpt == u"2A")
-        return u"96";
-    if (dpt == u"2b" || dpt == u"2B")
-        return u"97";
-    return dpt;
-}
 
 QStringView Departement_De_Fiche(QStringView ligne_log)
 {

@@ -8,9 +8,6 @@
 /// Indices of a table by department number: 0 to 95, and Corsica behind them.
 inline constexpr std::size_t taille_departements = 98;
 
-/// "2A" and "2a" are 96, "2B" and "2b" are 97; any other text stands.
-QStringView Departement_Replie(QStringView dpt);
-
 /// The department of a line as the sheets read it: four columns, trimmed, folded.
 QStringView Departement_De_Fiche(QStringView ligne_log);
 

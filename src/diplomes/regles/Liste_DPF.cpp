@@ -1,5 +1,6 @@
 #include "diplomes/regles/Liste_DPF.h"
 
+#include "diplomes/modele/Classe_Bande.h"
 #include "diplomes/regles/Provinces.h"
 #include "diplomes/regles/Regle_DPF.h"
 #include "log/Catalogue.h"
@@ -30,14 +31,14 @@ constexpr qsizetype largeur_province = 20;
 constexpr qsizetype largeur_province_et_bande = 33;
 
 /// 18 MHz is HF and 50 MHz is THF here, unlike in the sheet. `bande` is the whole field.
-QStringView Classe(QStringView bande, QStringView avant)
+Classe_Bande Classe(QStringView bande, Classe_Bande avant)
 {
     for (const QStringView hf :
          {u"1.8 Mhz", u"3.5 Mhz", u"7.0 Mhz", u"14 Mhz ", u"18 Mhz ", u"21 Mhz ", u"24 Mhz ", u"28 Mhz "})
         if (bande == hf)
-            return u"HF";
+            return Classe_Bande::HF;
     const bool thf = bande == u"50 Mhz " || bande == u"144 Mhz" || bande == u"432 Mhz";
-    return thf ? QStringView(u"THF") : avant;
+    return thf ? Classe_Bande::THF : avant;
 }
 
 bool Est_Bande_Comptee(QStringView bande)
@@ -75,11 +76,12 @@ std::vector<QString> Premiers(std::vector<QString> rangs, qsizetype largeur)
 std::vector<QString> Rangs_Des_Lignes(const Lignes_Texte &lignes, const Etat_Commun &etat)
 {
     const bool par_bande = etat.code_categorie == cinq_bandes_dpf;
+    const std::optional<Classe_Bande> voulue = Classe_Nommee(etat.bande_liste);
     std::vector<QString> rangs;
-    QStringView classe = u"";
+    auto classe = Classe_Bande::Aucune;
     for (const QStringView ligne : lignes) {
         classe = Classe(Lit(ligne, col::Bande), classe);
-        const bool sur_bande = par_bande ? Est_Bande_Comptee(Lit_Rogne(ligne, col::Bande)) : classe == etat.bande_liste;
+        const bool sur_bande = par_bande ? Est_Bande_Comptee(Lit_Rogne(ligne, col::Bande)) : classe == voulue;
         if (sur_bande && Est_Confirme(ligne) && Lit_Rogne(ligne, col::Mode) == etat.mode_liste)
             rangs.push_back(Rang(ligne));
     }

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "diplomes/Liste_Diplome.h"
+#include "diplomes/modele/Liste_Diplome.h"
 
 /// The list of an award from the log lines that stand in it, in the order of the log: their rows, sorted by their text
 /// without regard to case, with their number and the texts around them.

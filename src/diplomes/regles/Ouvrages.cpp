@@ -9,6 +9,7 @@
 namespace {
 
 constexpr Champ debut_de_ref{colonnes_log::Ref.colonne, 5};
+constexpr Champ departement_de_ref{colonnes_log::Ref.colonne, 2};
 constexpr Champ lettres_de_ref{colonnes_log::Ref.colonne + 2, 2};
 
 struct Lettres_De_Categorie {
@@ -57,6 +58,12 @@ bool Dans_Liste_DOHF(QStringView ligne_log, const Etat_Commun &etat)
     const QStringView lettres = Lit(ligne_log, lettres_de_ref);
     // Dams and aqueducts stand in every list: the test of their letters never asks for the category.
     return voulue == u"MI" || lettres == u"BA" || lettres == u"AQ" || lettres == voulue || Est_De(lettres, voulue);
+}
+
+bool Departement_Est_Categorie(QStringView ligne_log, const Etat_Commun &etat)
+{
+    // The columns hold the department and are compared with a category. It stands so.
+    return Lit_Rogne(ligne_log, departement_de_ref) == etat.code_categorie;
 }
 
 void Copie_Categorie(Etat_Commun &etat)

@@ -14,5 +14,8 @@ bool Compte_Ouvrages(QStringView ligne_log, const Etat_Commun &etat);
 /// True if the line stands in the list of Categorie_Liste, confirmed or not.
 bool Dans_Liste_DOHF(QStringView ligne_log, const Etat_Commun &etat);
 
+/// True if the department is Code_Categorie, as the ADIF file asks: with well-formed references it never is.
+bool Departement_Est_Categorie(QStringView ligne_log, const Etat_Commun &etat);
+
 /// What a button of the sheet does besides its level: Categorie_Liste takes Code_Categorie.
 void Copie_Categorie(Etat_Commun &etat);

@@ -1,10 +1,6 @@
 #include "diplomes/regles/Points_DYLF.h"
 
-#include "diplomes/regles/Evalue_Fiche.h"
-#include "log/Etat_Commun.h"
 #include "log/Ligne_Log.h"
-#include "log/Poste.h"
-#include "plateforme/Dossier.h"
 
 #include <algorithm>
 
@@ -56,11 +52,6 @@ const Points *Points_De(QStringView ligne)
     return place == points.end() ? nullptr : place;
 }
 
-Lignes_Texte Lit_Log(const Poste &poste)
-{
-    return poste.dossier.Lit_Lignes(poste.etat.station.Log(Diplome::DYLF));
-}
-
 } // namespace
 
 // clang-format off
@@ -103,15 +94,4 @@ Score Total(const std::array<Score, nombre_scores> &scores)
         total.points += score.points;
     }
     return total;
-}
-
-Etat_Fiche Charge_DYLF(const Poste &poste, const Fiche_Diplome &fiche)
-{
-    const Comptes comptes = {.n = Points_De_Fiche(Lit_Log(poste))};
-    return Evalue_Fiche(fiche, std::span(&comptes, 1), poste.etat);
-}
-
-std::array<Score, nombre_scores> Charge_Scores_DYLF(const Poste &poste)
-{
-    return Compte_Scores(Lit_Log(poste));
 }

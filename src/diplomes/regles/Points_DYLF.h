@@ -1,7 +1,8 @@
 #pragma once
 
-#include "diplomes/Fiche_Diplome.h"
 #include "plateforme/Lignes_Texte.h"
+
+#include <QStringView>
 
 #include <array>
 
@@ -26,10 +27,3 @@ extern const std::array<QStringView, nombre_scores> libelles_des_scores;
 std::array<Score, nombre_scores> Compte_Scores(const Lignes_Texte &lignes);
 /// All rows together.
 Score Total(const std::array<Score, nombre_scores> &scores);
-
-// The operations; both throw Erreur_Execution for an absent log.
-
-/// The whole load of the sheet: its tiers go by points instead of lines.
-Etat_Fiche Charge_DYLF(const Poste &poste, const Fiche_Diplome &fiche);
-/// The rows of the score table of the current station.
-std::array<Score, nombre_scores> Charge_Scores_DYLF(const Poste &poste);

@@ -1,8 +1,8 @@
 #include "diplomes/regles/Regle_Challenge.h"
 
-#include "diplomes/regles/Departements.h"
+#include "diplomes/modele/Rangs.h"
 #include "diplomes/regles/Remplit_Liste.h"
-#include "diplomes/tables/Rangs.h"
+#include "log/Departement.h"
 #include "log/Ordre.h"
 
 namespace {

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "diplomes/Fiche_Diplome.h"
+#include "diplomes/modele/Fiche_Diplome.h"
 
 /// Confirmed, in the mode of the category chosen: "Mixte" takes any, "Phone" takes SSB alone, "CW" takes CW.
 bool Confirme_Mode_Choisi(QStringView ligne_log, const Etat_Commun &etat);

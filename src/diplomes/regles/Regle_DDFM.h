@@ -1,6 +1,6 @@
 #pragma once
 
-#include "diplomes/Fiche_Diplome.h"
+#include "diplomes/modele/Fiche_Diplome.h"
 #include "plateforme/Lignes_Texte.h"
 
 #include <vector>

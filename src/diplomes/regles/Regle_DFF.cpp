@@ -1,8 +1,9 @@
 #include "diplomes/regles/Regle_DFF.h"
 
+#include "diplomes/regles/Compte.h"
+#include "diplomes/regles/Fiche_Des_Comptes.h"
 #include "diplomes/regles/Lignes_Retenues.h"
 #include "log/Etat_Commun.h"
-#include "log/Poste.h"
 
 #include <vector>
 
@@ -22,14 +23,15 @@ bool Confirme_Bande_Choisie(QStringView ligne_log, const Etat_Commun &etat)
     return Est_HF(etat) ? Confirme_HF(ligne_log, etat) : Confirme_144(ligne_log, etat);
 }
 
-Etat_Fiche Charge_DFF(const Poste &poste, const Fiche_Diplome &fiche)
+Etat_Fiche Evalue_DFF(const Fiche_Diplome &fiche, const Lectures &lues, const Etat_Commun &etat)
 {
-    if (Est_HF(poste.etat))
-        return Charge_Par_Niveaux(poste, fiche);
+    const std::vector<Comptes> comptes = Compte(fiche.regles, lues.log, etat);
+    if (Est_HF(etat))
+        return Fiche_Des_Comptes(fiche, comptes, etat);
     std::vector<Niveau_Diplome> niveaux(fiche.niveaux.begin(), fiche.niveaux.end());
     for (std::size_t i = 0; i < niveaux.size(); ++i)
         niveaux[i].seuil_n = seuils_vhf.at(i);
     Fiche_Diplome variante = fiche;
     variante.niveaux = niveaux;
-    return Charge_Par_Niveaux(poste, variante);
+    return Fiche_Des_Comptes(variante, comptes, etat);
 }

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "diplomes/Etat_Fiche.h"
+#include "diplomes/modele/Etat_Fiche.h"
 
 /// Where Mixte waits for departments alone, its number of QSOs shows nothing instead of 0.
 void Vide_Nombre_Mixte(Etat_Fiche &etat);

@@ -1,5 +1,6 @@
 #include "diplomes/regles/Regle_DPF.h"
 
+#include "diplomes/modele/Classe_Bande.h"
 #include "diplomes/regles/Bandes.h"
 #include "diplomes/regles/Provinces.h"
 #include "log/Catalogue.h"
@@ -14,11 +15,11 @@ namespace {
 namespace col = colonnes_log;
 
 /// 18 and 10 MHz are in no class, so they take that of the line before; 50 MHz is HF, unlike in the list.
-QStringView Classe(QStringView bande, QStringView avant)
+Classe_Bande Classe(QStringView bande, Classe_Bande avant)
 {
     if (Est_Bande_HF(bande))
-        return u"HF";
-    return bande == u"144 Mhz" || bande == u"432 Mhz" ? QStringView(u"THF") : avant;
+        return Classe_Bande::HF;
+    return bande == u"144 Mhz" || bande == u"432 Mhz" ? Classe_Bande::THF : avant;
 }
 
 Comptes Compte_Mode(const Lignes_Texte &lignes, const Etat_Commun &etat, QStringView mode)
@@ -39,13 +40,14 @@ Comptes Compte_Mode(const Lignes_Texte &lignes, const Etat_Commun &etat, QString
 int Compte_Provinces(const Lignes_Texte &lignes, const Etat_Commun &etat, QStringView mode, QStringView bande)
 {
     const bool par_bande = etat.code_categorie == cinq_bandes_dpf;
-    const QStringView voulue = par_bande ? bande : QStringView(etat.bande_liste);
+    const std::optional<Classe_Bande> voulue = Classe_Nommee(etat.bande_liste);
     std::array<bool, nombre_provinces> vues = {};
-    QStringView classe = u"";
+    auto classe = Classe_Bande::Aucune;
     for (const QStringView ligne : lignes) {
         const QStringView sienne = Lit_Rogne(ligne, col::Bande);
-        classe = par_bande ? sienne : Classe(sienne, classe);
-        if (!Est_Confirme(ligne) || classe != voulue || Lit_Rogne(ligne, col::Mode) != mode)
+        classe = Classe(sienne, classe);
+        const bool comptee = par_bande ? sienne == bande : classe == voulue;
+        if (!comptee || !Est_Confirme(ligne) || Lit_Rogne(ligne, col::Mode) != mode)
             continue;
         if (const auto numero = Numero_Province(Majuscules_1252(Lit_Rogne(ligne, col::Dpt))))
             vues[*numero] = true;

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "diplomes/Fiche_Diplome.h"
+#include "diplomes/modele/Fiche_Diplome.h"
 #include "plateforme/Lignes_Texte.h"
 
 /// The kind of the award, in Code_Categorie, that asks for five bands; the other is "Simple".

@@ -1,6 +1,7 @@
 #include "diplomes/regles/Regle_TDC.h"
 
 #include "listes/Index_Liste.h"
+#include "listes/Table_Recherches.h"
 #include "log/Ligne_Log.h"
 
 namespace {
@@ -13,10 +14,11 @@ bool Est_Sur_La_Ligne(QStringView ligne_log, QStringView ligne_de_tours, Index_L
 
 } // namespace
 
-std::vector<QStringView> Lignes_TDC(const Lignes_Texte &lignes, QStringView ligne_de_tours, Index_Liste &tours)
+std::vector<QStringView> Lignes_TDC(const Lectures &lues, QStringView ligne_de_tours)
 {
+    Index_Liste tours(recherches::Ligne_TDC, lues.references);
     std::vector<QStringView> retenues;
-    for (const QStringView ligne : lignes)
+    for (const QStringView ligne : lues.log)
         // Looked up for every line, confirmed or not: a faulty list is a failure either way.
         if (Est_Sur_La_Ligne(ligne, ligne_de_tours, tours) && Est_Confirme(ligne))
             retenues.push_back(ligne);

@@ -1,6 +1,7 @@
 #include "diplomes/regles/Remplit_Liste.h"
 
 #include "diplomes/regles/Departements.h"
+#include "log/Departement.h"
 #include "log/Etat_Commun.h"
 #include "log/Ligne_Log.h"
 #include "log/Ordre.h"
@@ -17,7 +18,7 @@ public:
     Filtre(const Liste_Diplome &liste, const Etat_Commun &etat)
         : liste_(liste),
           etat_(etat),
-          voulue_(Compose(liste.classe_voulue, Valeurs(etat)))
+          voulue_(Classe_Nommee(Compose(liste.classe_voulue, Valeurs(etat))))
     {
     }
 
@@ -32,8 +33,8 @@ public:
 private:
     const Liste_Diplome &liste_;
     const Etat_Commun &etat_;
-    QString voulue_;
-    QStringView classe_ = u"";
+    std::optional<Classe_Bande> voulue_;
+    Classe_Bande classe_ = Classe_Bande::Aucune;
 };
 
 /// Room for a row of any award, so that it is allocated once.
@@ -87,9 +88,17 @@ QString Compose_Rang(const Forme_Rang &forme, QStringView ligne_log)
     return Compose_Rang(forme, ligne_log, Lit(ligne_log, col::Dpt));
 }
 
+Valeurs Valeurs_De_Liste(const Liste_Diplome &liste, const Etat_Commun &etat)
+{
+    Valeurs valeurs(etat);
+    if (liste.valeurs)
+        liste.valeurs(valeurs, etat);
+    return valeurs;
+}
+
 Etat_Liste Textes_De_Liste(const Liste_Diplome &liste, const Etat_Commun &etat)
 {
-    const Valeurs valeurs(etat);
+    const Valeurs valeurs = Valeurs_De_Liste(liste, etat);
     QStringView titre = liste.titre;
     const QString choisi = Compose(liste.selecteur_titre, valeurs);
     for (const Titre_De_Liste &possible : liste.titres)

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "diplomes/Liste_Diplome.h"
+#include "diplomes/modele/Liste_Diplome.h"
 #include "plateforme/Lignes_Texte.h"
 
 /// The rows of the tier that the shared texts name, sorted by their text without regard to case, with the texts around
@@ -10,6 +10,9 @@ Etat_Liste Remplit_Liste(const Liste_Diplome &liste, const Lignes_Texte &lignes,
 /// The row of a log line, with `dpt` in the place of its department.
 QString Compose_Rang(const Forme_Rang &forme, QStringView ligne_log, QStringView dpt);
 QString Compose_Rang(const Forme_Rang &forme, QStringView ligne_log);
+
+/// The values that the texts of a list may name.
+Valeurs Valeurs_De_Liste(const Liste_Diplome &liste, const Etat_Commun &etat);
 
 /// The title, the heading and the header of a list before its rows are known.
 Etat_Liste Textes_De_Liste(const Liste_Diplome &liste, const Etat_Commun &etat);

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "diplomes/Fiche_Diplome.h"
+#include "diplomes/modele/Fiche_Diplome.h"
 
 // The labels of a tier as the tables write them. With labels of their own for the words and the numbers:
 
@@ -22,7 +22,7 @@ constexpr Texte_Detail Nombre_D(QStringView nom)
 }
 
 /// A noun that never changes.
-constexpr Texte_Detail Fixe(QStringView nom, QStringView texte)
+constexpr Texte_Detail Fixe(QStringView nom, Gabarit_Niveau texte)
 {
     return {.nom = nom, .manque = texte, .atteint = texte, .inchange = texte};
 }
@@ -30,9 +30,9 @@ constexpr Texte_Detail Fixe(QStringView nom, QStringView texte)
 // And with one label for the whole sentence:
 
 struct Phrase_De_Niveau {
-    QStringView manque;
-    QStringView atteint;
-    QStringView inchange = u"il vous manque ";
+    Gabarit_Niveau manque;
+    Gabarit_Niveau atteint;
+    Gabarit_Niveau inchange = u"il vous manque ";
 };
 
 constexpr Texte_Detail Phrase(QStringView nom, const Phrase_De_Niveau &phrase)

@@ -3,8 +3,6 @@
 #include "diplomes/regles/Regle_Challenge.h"
 #include "diplomes/regles/Remplit_Liste.h"
 #include "log/Etat_Commun.h"
-#include "log/Poste.h"
-#include "plateforme/Dossier.h"
 
 #include <array>
 
@@ -65,11 +63,6 @@ Valeurs Valeurs_Du_Challenge(const Etat_Commun &etat)
     return valeurs;
 }
 
-Lignes_Texte Log_De_L_Annee(const Poste &poste)
-{
-    return poste.dossier.Lit_Lignes(poste.etat.station.Log(Est_DMF(poste.etat) ? Diplome::Ch_DMF : Diplome::Ch_DFCF));
-}
-
 Etat_Niveau Ligne_De_Points(const Compte_A_L_Ecran &compte, int nombre, int points)
 {
     const QString lettre = compte.compte.last(1).toString();
@@ -82,55 +75,56 @@ Etat_Niveau Ligne_De_Points(const Compte_A_L_Ecran &compte, int nombre, int poin
             .avancement = {}};
 }
 
-Etat_Fiche Charge_Fiche_Challenge(const Poste &poste, const Fiche_Diplome &fiche)
+Etat_Fiche Evalue_Fiche_Challenge(const Fiche_Diplome &fiche, const Lectures &lues, const Etat_Commun &etat)
 {
-    const std::array<int, 4> comptes = Compte_Challenge(Log_De_L_Annee(poste));
-    const QString titre = Compose(fiche.titre, Valeurs_Du_Challenge(poste.etat));
-    Etat_Fiche etat{titre, titre, {}};
+    const std::array<int, 4> comptes = Compte_Challenge(lues.log);
+    const Valeurs valeurs = Valeurs_Du_Challenge(etat);
+    Etat_Fiche resultat{Compose(fiche.titre, valeurs), Compose(fiche.entete, valeurs), {}};
     int total = 0;
     for (const Compte_A_L_Ecran &compte : comptes_a_l_ecran) {
         const int points = comptes[compte.lettre] * lettres_challenge[compte.lettre].points;
-        etat.niveaux.push_back(Ligne_De_Points(compte, comptes[compte.lettre], points));
+        resultat.niveaux.push_back(Ligne_De_Points(compte, comptes[compte.lettre], points));
         total += points;
     }
-    etat.niveaux.push_back({.etat = {u"Label_Total"_s, u"Total"_s},
-                            .detail = {{u"Points_Tot"_s, QString::number(total)}},
-                            .bouton = {u"Liste_Cha_DFCF"_s, true},
-                            .avancement = {}});
-    return etat;
+    resultat.niveaux.push_back({.etat = {u"Label_Total"_s, u"Total"_s},
+                                .detail = {{u"Points_Tot"_s, QString::number(total)}},
+                                .bouton = {u"Liste_Cha_DFCF"_s, true},
+                                .avancement = {}});
+    return resultat;
 }
 
-Etat_Liste Charge_Liste_Challenge(const Poste &poste, const Liste_Diplome &liste)
+Etat_Liste Evalue_Liste_Challenge(const Liste_Diplome &liste, const Lectures &lues, const Etat_Commun &etat)
 {
-    Rangs_Challenge rangs = Liste_Challenge(Log_De_L_Annee(poste));
-    Etat_Liste etat = Textes_De_Liste(liste, poste.etat);
-    etat.titre = etat.entete = Compose(liste.entete, Valeurs_Du_Challenge(poste.etat));
+    Rangs_Challenge rangs = Liste_Challenge(lues.log);
+    Etat_Liste resultat = Textes_De_Liste(liste, etat);
     // "DFCF" stands for both challenges.
-    etat.compte = u' ' + QString::number(rangs.rangs.size()) + u" DFCF contactés avec  " +
-                  QString::number(rangs.points_des_lettres) + u" points";
-    etat.rangs = std::move(rangs.rangs);
+    resultat.compte = u' ' + QString::number(rangs.rangs.size()) + u" DFCF contactés avec  " +
+                      QString::number(rangs.points_des_lettres) + u" points";
+    resultat.rangs = std::move(rangs.rangs);
     const QString total = QString::number(rangs.total);
-    etat.pied_enregistre = {QString(), total_enregistre + total};
-    etat.pied_imprime = {QString(), total_imprime + total};
-    return etat;
+    resultat.pied_enregistre = {QString(), total_enregistre + total};
+    resultat.pied_imprime = {QString(), total_imprime + total};
+    return resultat;
 }
+
+constexpr Sources sources = {.diplome = Diplome::Ch_DFCF, .autre = Diplome::Ch_DMF};
 
 } // namespace
 
 constexpr Fiche_Diplome fiche_ch_dfcf = {
     .ecran = u"Diplomes_Ch_DFCF",
-    .diplome = Diplome::Ch_DFCF,
+    .sources = sources,
     .titre = u"Challenge {Challenge} année {Annee}",
     .entete = u"Challenge {Challenge} année {Annee}",
     .liste = u"Liste_Ch_DFCF",
     .regles = {},
     .niveaux = niveaux,
-    .charge = Charge_Fiche_Challenge,
+    .evalue = Evalue_Fiche_Challenge,
 };
 
 constexpr Liste_Diplome liste_ch_dfcf = {
     .ecran = u"Liste_Ch_DFCF",
-    .diplome = Diplome::Ch_DFCF,
+    .sources = sources,
     .nom = u"Liste_DFCF_Contacte",
     .titre = u"Challenge {Challenge} {Annee}",
     .entete = u"Challenge {Challenge} {Annee}",
@@ -141,5 +135,5 @@ constexpr Liste_Diplome liste_ch_dfcf = {
     .fichiers = fichiers,
     .pages = pages,
     .valeurs = Pose_Challenge,
-    .charge = Charge_Liste_Challenge,
+    .evalue = Evalue_Liste_Challenge,
 };

@@ -1,8 +1,8 @@
 #include "diplomes/tables/Tables.h"
 
+#include "diplomes/modele/Rangs.h"
 #include "diplomes/regles/Lignes_Retenues.h"
 #include "diplomes/regles/Regle_DAF.h"
-#include "diplomes/tables/Rangs.h"
 
 #include <array>
 
@@ -51,7 +51,7 @@ constexpr std::array<Titre_De_Liste, 3> titres = {{
 }};
 
 // The button gives "MIX", which has no row: that list has neither file nor title.
-constexpr QStringView titre_de_fichier = u"   {Indicatif} Liste alphanumerique des Abbayes contactées mode {Mode_Liste} au {Date}";
+constexpr Gabarit_Sortie titre_de_fichier = u"   {Indicatif} Liste alphanumerique des Abbayes contactées mode {Mode_Liste} au {Date}";
 constexpr QStringView colonnes_de_fichier = u"   N°   Ref      Dpt      Nom de l'Abbaye                Date    Heure  Indicatif";
 constexpr std::array<Sortie_De_Liste, 3> fichiers = {{
     {u"Mixte", u"{Indicatif}_Diplome_DAF_{Mode_Liste}_{JJ_MM_AA}.txt", titre_de_fichier, colonnes_de_fichier},
@@ -59,7 +59,7 @@ constexpr std::array<Sortie_De_Liste, 3> fichiers = {{
     {u"CW", u"{Indicatif}_Diplome_DAF_{Mode_Liste}_{JJ_MM_AA}.txt", titre_de_fichier, colonnes_de_fichier},
 }};
 
-constexpr QStringView titre_de_page = u"                 {Indicatif} Diplome DAF {Mode_Liste} au {Date}";
+constexpr Gabarit_Sortie titre_de_page = u"                 {Indicatif} Diplome DAF {Mode_Liste} au {Date}";
 constexpr QStringView colonnes_de_page = u"       N°   Ref      Dpt      Nom de l'Abbaye              Date    Heure  Indicatif";
 constexpr std::array<Sortie_De_Liste, 3> pages = {{
     {u"Mixte", u"", titre_de_page, colonnes_de_page},
@@ -72,7 +72,7 @@ constexpr std::array<Sortie_De_Liste, 3> pages = {{
 
 constexpr Fiche_Diplome fiche_daf = {
     .ecran = u"Diplomes_DAF",
-    .diplome = Diplome::DAF,
+    .sources = {Diplome::DAF},
     .titre = u"Diplome DAF {Niveau_Liste}",
     .entete = u"Diplome DAF {Niveau_Liste}",
     .liste = u"Liste_DAF",
@@ -83,7 +83,7 @@ constexpr Fiche_Diplome fiche_daf = {
 
 constexpr Liste_Diplome liste_daf = {
     .ecran = u"Liste_DAF",
-    .diplome = Diplome::DAF,
+    .sources = {Diplome::DAF},
     .nom = u"Liste_DAF_Contacte",
     .titre = u"Diplôme DAF",
     .entete = u"Diplome DAF {Mode_Liste}",

@@ -1,8 +1,8 @@
 #include "diplomes/tables/Tables.h"
 
+#include "diplomes/modele/Rangs.h"
 #include "diplomes/regles/Lignes_Retenues.h"
 #include "diplomes/tables/Details.h"
-#include "diplomes/tables/Rangs.h"
 
 #include <array>
 
@@ -30,7 +30,7 @@ constexpr std::array<Niveau_Diplome, 4> niveaux = {{
      .seuil_n = 100, .detail = {Phrase(u"Label21", cathedrales)}, .bouton = u"HF_Trophe", .choix = {{.bande_liste = u"HF", .code_categorie = u"Trophe"}}},
 }};
 
-constexpr QStringView titre_de_fichier = u"   {Indicatif} Liste alphanumerique des Cathédrales contactées au {Date}";
+constexpr Gabarit_Sortie titre_de_fichier = u"   {Indicatif} Liste alphanumerique des Cathédrales contactées au {Date}";
 constexpr QStringView colonnes_de_fichier = u"   N°    Ref     Dpt   Nom de la cathedrale            Date    Heure  Indicatif";
 constexpr std::array<Sortie_De_Liste, 4> fichiers = {{
     {u"de Base", u"{Indicatif}_Diplome_DCF_de_Base_{JJ_MM_AA}.txt", titre_de_fichier, colonnes_de_fichier},
@@ -52,7 +52,7 @@ constexpr std::array<Sortie_De_Liste, 4> pages = {{
 
 constexpr Fiche_Diplome fiche_dcf = {
     .ecran = u"Diplomes_DCF",
-    .diplome = Diplome::DCF,
+    .sources = {Diplome::DCF},
     .titre = u"Diplomes DCF",
     .entete = u"Diplomes DCF",
     .liste = u"Liste_DCF",
@@ -62,7 +62,7 @@ constexpr Fiche_Diplome fiche_dcf = {
 
 constexpr Liste_Diplome liste_dcf = {
     .ecran = u"Liste_DCF",
-    .diplome = Diplome::DCF,
+    .sources = {Diplome::DCF},
     .nom = u"Liste_DCF_Contacte",
     .titre = u"Diplôme DCF",
     .entete = u"Diplome DCF {Code_Categorie}",

@@ -1,8 +1,8 @@
 #include "diplomes/tables/Tables.h"
 
+#include "diplomes/modele/Rangs.h"
 #include "diplomes/regles/Lignes_Retenues.h"
 #include "diplomes/tables/Details.h"
-#include "diplomes/tables/Rangs.h"
 
 #include <array>
 
@@ -30,7 +30,7 @@ constexpr std::array<Niveau_Diplome, 4> niveaux = {{
      .seuil_n = 500, .detail = {Phrase(u"Label21", pigeonniers)}, .bouton = u"Honneur", .choix = {{.categorie_liste = u"Honneur"}}},
 }};
 
-constexpr QStringView titre_de_fichier = u"   {Indicatif} Liste alphanumerique des Pigeonniers contactés au {Date}";
+constexpr Gabarit_Sortie titre_de_fichier = u"   {Indicatif} Liste alphanumerique des Pigeonniers contactés au {Date}";
 constexpr QStringView colonnes_de_fichier = u"   N°    Ref     Dpt   Nom du Pigeonnier               Date    Heure  Indicatif";
 constexpr std::array<Sortie_De_Liste, 4> fichiers = {{
     {u"Bronze", u"{Indicatif}_Diplome_DCPF_de_Bronze_Pigeonnier {Niveau_Liste} {JJ_MM_AA}.txt", titre_de_fichier, colonnes_de_fichier},
@@ -53,7 +53,7 @@ constexpr std::array<Sortie_De_Liste, 4> pages = {{
 
 constexpr Fiche_Diplome fiche_dcpf = {
     .ecran = u"Diplomes_DCPF",
-    .diplome = Diplome::DCPF,
+    .sources = {Diplome::DCPF},
     .titre = u"Diplome DCPF {Niveau_Liste}",
     .entete = u"Diplome DCPF {Niveau_Liste}",
     .liste = u"Liste_DCPF",
@@ -63,7 +63,7 @@ constexpr Fiche_Diplome fiche_dcpf = {
 
 constexpr Liste_Diplome liste_dcpf = {
     .ecran = u"Liste_DCPF",
-    .diplome = Diplome::DCPF,
+    .sources = {Diplome::DCPF},
     .nom = u"Liste_DCPF_Contacte",
     .titre = u"Diplôme DCPF",
     .entete = u"Diplome DCPF {Categorie_Liste} type Pigeonnier {Niveau_Liste}",

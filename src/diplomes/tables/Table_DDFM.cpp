@@ -1,13 +1,11 @@
 #include "diplomes/tables/Tables.h"
 
-#include "diplomes/regles/Evalue_Fiche.h"
+#include "diplomes/regles/Fiche_Des_Comptes.h"
 #include "diplomes/regles/Liste_Des_Lignes.h"
 #include "diplomes/regles/Regle_DDFM.h"
 #include "diplomes/tables/Details.h"
 #include "log/Etat_Commun.h"
 #include "log/Ligne_Log.h"
-#include "log/Poste.h"
-#include "plateforme/Dossier.h"
 
 #include <array>
 
@@ -54,7 +52,7 @@ constexpr std::array<Colonne, 7> colonnes = {{
     {colonnes_log::Nom, 0},
 }};
 
-constexpr QStringView titre = u"   {Indicatif} Liste des départements contactés bande {Bande_Liste} mode {Mode_Liste} au {Date}";
+constexpr Gabarit_Sortie titre = u"   {Indicatif} Liste des départements contactés bande {Bande_Liste} mode {Mode_Liste} au {Date}";
 constexpr std::array<Sortie_De_Liste, 1> fichiers = {{
     {{}, u"{Indicatif}_Diplome_DDFM_{Bande_De_Nom}_{Mode_Liste}_{JJ_MM_AA}.txt", titre, u"   N°  Dpt  Indicatif      Bande   Mode  Date    Heure      Ville"},
 }};
@@ -70,23 +68,17 @@ std::span<const Niveau_Diplome> Niveaux_De_Bande(QStringView bande)
     return bande == u"144 Mhz" || bande == u"432 Mhz" ? bande_haute : une_bande;
 }
 
-Lignes_Texte Log(const Poste &poste, Diplome diplome)
+Etat_Fiche Evalue_Fiche_DDFM(const Fiche_Diplome &fiche, const Lectures &lues, const Etat_Commun &etat)
 {
-    return poste.dossier.Lit_Lignes(poste.etat.station.Log(diplome));
-}
-
-Etat_Fiche Charge_Fiche_DDFM(const Poste &poste, const Fiche_Diplome &fiche)
-{
-    const QString &bande = poste.etat.bande_liste;
+    const QString &bande = etat.bande_liste;
     Fiche_Diplome de_la_bande = fiche;
     de_la_bande.niveaux = Niveaux_De_Bande(bande);
-    return Evalue_Fiche(de_la_bande, Compte_DDFM(Log(poste, fiche.diplome), bande), poste.etat);
+    return Fiche_Des_Comptes(de_la_bande, Compte_DDFM(lues.log, bande), etat);
 }
 
-Etat_Liste Charge_Liste_DDFM(const Poste &poste, const Liste_Diplome &liste)
+Etat_Liste Evalue_Liste_DDFM(const Liste_Diplome &liste, const Lectures &lues, const Etat_Commun &etat)
 {
-    const Lignes_Texte lignes = Log(poste, liste.diplome);
-    return Liste_Des_Lignes(liste, Lignes_DDFM(lignes, poste.etat.bande_liste, poste.etat.mode_liste), poste.etat);
+    return Liste_Des_Lignes(liste, Lignes_DDFM(lues.log, etat.bande_liste, etat.mode_liste), etat);
 }
 
 /// The band as the name of the file holds it: "1_8 Mhz".
@@ -100,18 +92,18 @@ void Pose_Bande_De_Nom(Valeurs &valeurs, const Etat_Commun &etat)
 
 constexpr Fiche_Diplome fiche_ddfm = {
     .ecran = u"Diplomes_DDFM",
-    .diplome = Diplome::DDFM,
+    .sources = {Diplome::DDFM},
     .titre = u"Diplome DDFM {Code_Categorie} {Bande_Liste}",
     .entete = u"Diplome DDFM {Code_Categorie} {Bande_Liste}",
     .liste = u"Liste_DDFM",
     .regles = {},
     .niveaux = une_bande,
-    .charge = Charge_Fiche_DDFM,
+    .evalue = Evalue_Fiche_DDFM,
 };
 
 constexpr Liste_Diplome liste_ddfm = {
     .ecran = u"Liste_DDFM",
-    .diplome = Diplome::DDFM,
+    .sources = {Diplome::DDFM},
     .nom = u"Liste_DDFM_Contacte",
     .titre = u"Diplôme DDFM",
     .entete = u"Diplome DDFM {Bande_Liste} {Mode_Liste}",
@@ -121,5 +113,5 @@ constexpr Liste_Diplome liste_ddfm = {
     .fichiers = fichiers,
     .pages = pages,
     .valeurs = Pose_Bande_De_Nom,
-    .charge = Charge_Liste_DDFM,
+    .evalue = Evalue_Liste_DDFM,
 };

@@ -1,9 +1,9 @@
 #include "diplomes/tables/Tables.h"
 
+#include "diplomes/modele/Rangs.h"
 #include "diplomes/regles/Bandes.h"
 #include "diplomes/regles/Lignes_Retenues.h"
 #include "diplomes/tables/Details.h"
-#include "diplomes/tables/Rangs.h"
 
 #include <array>
 
@@ -50,7 +50,7 @@ constexpr std::array<Titre_De_Liste, 3> titres = {{
 
 constexpr Excellence excellence = {u"Dep   Ref       Indicatif    Prénom            Date    Heure  Bande   Mode", rang_excellence};
 
-constexpr QStringView titre_de_fichier = u"   {Indicatif} Liste alphanumerique des Chateaux contactés bande {Bande_Liste} au {Date}";
+constexpr Gabarit_Sortie titre_de_fichier = u"   {Indicatif} Liste alphanumerique des Chateaux contactés bande {Bande_Liste} au {Date}";
 constexpr QStringView colonnes_de_fichier = u"   N°   Ref      Dpt      Nom du Chateau               Date    Heure  Indicatif";
 constexpr std::array<Sortie_De_Liste, 4> fichiers = {{
     {u"de Base", u"{Indicatif}_Diplome_DFCF_de_Base_Bande_{Bande_Liste}_{JJ_MM_AA}.txt", titre_de_fichier, colonnes_de_fichier},
@@ -72,7 +72,7 @@ constexpr std::array<Sortie_De_Liste, 4> pages = {{
 
 constexpr Fiche_Diplome fiche_dfcf = {
     .ecran = u"Diplomes_DFCF",
-    .diplome = Diplome::DFCF,
+    .sources = {Diplome::DFCF},
     .titre = u"Diplomes DFCF bande HF",
     .entete = u"Diplomes DFCF bande HF",
     .liste = u"Liste_DFCF",
@@ -82,7 +82,7 @@ constexpr Fiche_Diplome fiche_dfcf = {
 
 constexpr Liste_Diplome liste_dfcf = {
     .ecran = u"Liste_DFCF",
-    .diplome = Diplome::DFCF,
+    .sources = {Diplome::DFCF},
     .nom = u"Liste_DFCF_Contacte",
     .titre = u"Diplôme DFCF",
     .entete = u"Diplome DFCF {Bande_Liste} {Code_Categorie}",

@@ -1,10 +1,10 @@
 #include "diplomes/tables/Tables.h"
 
+#include "diplomes/modele/Rangs.h"
 #include "diplomes/regles/Bandes.h"
 #include "diplomes/regles/Lignes_Retenues.h"
 #include "diplomes/regles/Regle_DFF.h"
 #include "diplomes/tables/Details.h"
-#include "diplomes/tables/Rangs.h"
 
 #include <array>
 
@@ -34,7 +34,7 @@ constexpr std::array<Niveau_Diplome, 5> niveaux = {{
      .seuil_n = 500, .detail = {Phrase(u"Label11", fontaines)}, .bouton = u"Maitre", .choix = {{.bande_liste = u"HF", .categorie_liste = u"Maitre"}}},
 }};
 
-constexpr QStringView titre_de_fichier = u"   {Indicatif} Liste alphanumerique des Fontaines contactées au {Date}";
+constexpr Gabarit_Sortie titre_de_fichier = u"   {Indicatif} Liste alphanumerique des Fontaines contactées au {Date}";
 constexpr QStringView colonnes_de_fichier = u"   N°    Ref  Dpt    Nom de la Fontaine             Date    Heure  Indicatif";
 constexpr std::array<Sortie_De_Liste, 2> fichiers = {{
     {u"HF", u"{Indicatif}_Diplome_DFF_{Categorie_Liste}_HF_{JJ_MM_AA}.txt", titre_de_fichier, colonnes_de_fichier},
@@ -51,18 +51,18 @@ constexpr std::array<Sortie_De_Liste, 2> pages = {{
 
 constexpr Fiche_Diplome fiche_dff = {
     .ecran = u"Diplomes_DFF",
-    .diplome = Diplome::DFF,
+    .sources = {Diplome::DFF},
     .titre = u"Diplome DFF {Code_Categorie}",
     .entete = u"Diplome DFF {Code_Categorie}",
     .liste = u"Liste_DFF",
     .regles = regles,
     .niveaux = niveaux,
-    .charge = Charge_DFF,
+    .evalue = Evalue_DFF,
 };
 
 constexpr Liste_Diplome liste_dff = {
     .ecran = u"Liste_DFF",
-    .diplome = Diplome::DFF,
+    .sources = {Diplome::DFF},
     .nom = u"Liste_DFF_Contacte",
     .titre = u"Diplôme DFF",
     .entete = u"Diplome DFF {Categorie_Liste} {Code_Categorie}",

@@ -1,9 +1,9 @@
 #include "diplomes/tables/Tables.h"
 
+#include "diplomes/modele/Rangs.h"
 #include "diplomes/regles/Lignes_Retenues.h"
 #include "diplomes/regles/Regle_DIFI.h"
 #include "diplomes/tables/Details.h"
-#include "diplomes/tables/Rangs.h"
 
 #include <array>
 
@@ -36,7 +36,7 @@ constexpr std::array<Titre_De_Liste, 3> titres = {{
     {u"CW", u"Liste DIFI Mode CW"},
 }};
 
-constexpr QStringView titre_de_fichier = u"   {Indicatif} Liste alphanumerique des Iles contactées mode {Mode_Liste} au {Date}";
+constexpr Gabarit_Sortie titre_de_fichier = u"   {Indicatif} Liste alphanumerique des Iles contactées mode {Mode_Liste} au {Date}";
 constexpr QStringView colonnes_de_fichier = u"   N°   Ref      Dpt      Nom de l'Ile                 Date    Heure  Indicatif";
 constexpr std::array<Sortie_De_Liste, 3> fichiers = {{
     {u"MIX", u"{Indicatif}_Diplome_DIFI_{Mode_Liste}_{JJ_MM_AA}.txt", titre_de_fichier, colonnes_de_fichier},
@@ -44,7 +44,7 @@ constexpr std::array<Sortie_De_Liste, 3> fichiers = {{
     {u"CW", u"{Indicatif}_Diplome_DIFI_{Mode_Liste}_{JJ_MM_AA}.txt", titre_de_fichier, colonnes_de_fichier},
 }};
 
-constexpr QStringView titre_de_page = u"                 {Indicatif} Diplome DIFI {Mode_Liste} au {Date}";
+constexpr Gabarit_Sortie titre_de_page = u"                 {Indicatif} Diplome DIFI {Mode_Liste} au {Date}";
 constexpr QStringView colonnes_de_page = u"       N°   Ref      Dpt      Nom de l'Ile                 Date    Heure  Indicatif";
 constexpr std::array<Sortie_De_Liste, 3> pages = {{
     {u"MIX", u"", titre_de_page, colonnes_de_page},
@@ -57,7 +57,7 @@ constexpr std::array<Sortie_De_Liste, 3> pages = {{
 
 constexpr Fiche_Diplome fiche_difi = {
     .ecran = u"Diplomes_DIFI",
-    .diplome = Diplome::DIFI,
+    .sources = {Diplome::DIFI},
     .titre = u"Diplomes DIFI",
     .entete = u"Diplomes DIFI",
     .liste = u"Liste_DIFI",
@@ -68,7 +68,7 @@ constexpr Fiche_Diplome fiche_difi = {
 
 constexpr Liste_Diplome liste_difi = {
     .ecran = u"Liste_DIFI",
-    .diplome = Diplome::DIFI,
+    .sources = {Diplome::DIFI},
     .nom = u"Liste_DIFI_Contacte",
     .titre = u"Diplôme DIFI",
     .entete = u"Diplome DIFI {Mode_Liste}",

@@ -1,8 +1,8 @@
 #include "diplomes/tables/Tables.h"
 
+#include "diplomes/modele/Rangs.h"
 #include "diplomes/regles/Lignes_Retenues.h"
 #include "diplomes/tables/Details.h"
-#include "diplomes/tables/Rangs.h"
 
 #include <array>
 
@@ -33,7 +33,7 @@ constexpr std::array<Sortie_De_Liste, 1> pages = {{
 
 constexpr Fiche_Diplome fiche_difm = {
     .ecran = u"Diplomes_DIFM",
-    .diplome = Diplome::DIFM,
+    .sources = {Diplome::DIFM},
     .titre = u"Diplomes DIFM",
     .entete = u"Diplomes DIFM",
     .liste = u"Liste_DIFM",
@@ -43,7 +43,7 @@ constexpr Fiche_Diplome fiche_difm = {
 
 constexpr Liste_Diplome liste_difm = {
     .ecran = u"Liste_DIFM",
-    .diplome = Diplome::DIFM,
+    .sources = {Diplome::DIFM},
     .nom = u"Liste_DIFM_Contacte",
     .titre = u"Diplôme DIFM",
     .entete = u"Diplome DIFM {Code_Categorie}",

@@ -1,9 +1,9 @@
 #include "diplomes/tables/Tables.h"
 
+#include "diplomes/modele/Rangs.h"
 #include "diplomes/regles/Bandes.h"
 #include "diplomes/regles/Lignes_Retenues.h"
 #include "diplomes/tables/Details.h"
-#include "diplomes/tables/Rangs.h"
 
 #include <array>
 
@@ -26,7 +26,7 @@ constexpr std::array<Niveau_Diplome, 2> niveaux = {{
      .seuil_n = 10, .regle = 1, .detail = {Phrase(u"Label19", lavoirs)}, .bouton = u"DLF_VHF", .choix = {{.bande_liste = u"VHF", .code_categorie = u"de Base"}}},
 }};
 
-constexpr QStringView titre_de_fichier = u"   {Indicatif} Liste alphanumerique des Lavoirs contactés au {Date}";
+constexpr Gabarit_Sortie titre_de_fichier = u"   {Indicatif} Liste alphanumerique des Lavoirs contactés au {Date}";
 constexpr QStringView colonnes_de_fichier = u"   N°    Ref     Dpt    Nom du Lavoir                  Date    Heure  Indicatif";
 constexpr std::array<Sortie_De_Liste, 2> fichiers = {{
     {u"HF", u"{Indicatif}_Diplome_DLF_HF_{JJ_MM_AA}.txt", titre_de_fichier, colonnes_de_fichier},
@@ -44,7 +44,7 @@ constexpr std::array<Sortie_De_Liste, 2> pages = {{
 
 constexpr Fiche_Diplome fiche_dlf = {
     .ecran = u"Diplomes_DLF",
-    .diplome = Diplome::DLF,
+    .sources = {Diplome::DLF},
     .titre = u"Diplomes DLF",
     .entete = u"Diplomes DLF",
     .liste = u"Liste_DLF",
@@ -54,7 +54,7 @@ constexpr Fiche_Diplome fiche_dlf = {
 
 constexpr Liste_Diplome liste_dlf = {
     .ecran = u"Liste_DLF",
-    .diplome = Diplome::DLF,
+    .sources = {Diplome::DLF},
     .nom = u"Liste_DLF_Contacte",
     .titre = u"Diplôme DLF",
     .entete = u"Diplome DLF {Bande_Liste}",

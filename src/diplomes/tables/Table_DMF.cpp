@@ -1,9 +1,9 @@
 #include "diplomes/tables/Tables.h"
 
+#include "diplomes/modele/Rangs.h"
 #include "diplomes/regles/Bandes.h"
 #include "diplomes/regles/Lignes_Retenues.h"
 #include "diplomes/tables/Details.h"
-#include "diplomes/tables/Rangs.h"
 
 #include <array>
 
@@ -38,7 +38,7 @@ constexpr std::array<Titre_De_Liste, 2> titres = {{
 
 constexpr Excellence excellence = {u" Dep  Ref       Indicatif    Prénom            Date    Heure  Bande   Mode", rang_excellence_dmf};
 
-constexpr QStringView titre_de_fichier = u"   {Indicatif} Liste alphanumerique des Moulins contactés bande {Bande_Liste} au {Date}";
+constexpr Gabarit_Sortie titre_de_fichier = u"   {Indicatif} Liste alphanumerique des Moulins contactés bande {Bande_Liste} au {Date}";
 constexpr QStringView colonnes_de_fichier = u"   N°   Ref      Dpt      Nom du Moulin                Date    Heure  Indicatif";
 constexpr std::array<Sortie_De_Liste, 4> fichiers = {{
     {u"de Base", u"{Indicatif}_Diplome_DMF_de_Base_Bande_{Bande_Liste}_{JJ_MM_AA}.txt", titre_de_fichier, colonnes_de_fichier},
@@ -61,7 +61,7 @@ constexpr std::array<Sortie_De_Liste, 4> pages = {{
 
 constexpr Fiche_Diplome fiche_dmf = {
     .ecran = u"Diplomes_DMF_HF",
-    .diplome = Diplome::DMF,
+    .sources = {Diplome::DMF},
     .titre = u"Diplomes DMF bande HF",
     .entete = u"Diplomes DMF bande HF",
     .liste = u"Liste_DMF",
@@ -71,7 +71,7 @@ constexpr Fiche_Diplome fiche_dmf = {
 
 constexpr Liste_Diplome liste_dmf = {
     .ecran = u"Liste_DMF",
-    .diplome = Diplome::DMF,
+    .sources = {Diplome::DMF},
     .nom = u"Liste_DMF_Contacte",
     .titre = u"Diplôme DMF",
     .entete = u"Diplome DMF {Bande_Liste} {Code_Categorie}",

@@ -1,9 +1,8 @@
 #include "diplomes/tables/Tables.h"
 
-#include "diplomes/ADIF_Ouvrages.h"
+#include "diplomes/modele/Rangs.h"
 #include "diplomes/regles/Ouvrages.h"
 #include "diplomes/tables/Details.h"
-#include "diplomes/tables/Rangs.h"
 
 #include <array>
 
@@ -64,14 +63,13 @@ constexpr std::array<Sortie_De_Liste, 4> pages = {{
     {u"MI", u"", u"   {Indicatif} Liste alphanumerique des Ouvrages contactés au {Date}", u"       N°   Ref     Nom de l'Ouvrage                Date    Heure  Indicatif"},
 }};
 
-constexpr std::array<Bouton_De_Liste, 1> boutons = {{{u"ADIF", u"Fichier ADIF", ADIF_DOHF}}};
 // clang-format on
 
 } // namespace
 
 constexpr Fiche_Diplome fiche_dohf = {
     .ecran = u"Diplomes_DOHF",
-    .diplome = Diplome::DOHF,
+    .sources = {Diplome::DOHF},
     .titre = u"Diplome {Libelle_Categorie}",
     .entete = u"Diplome {Libelle_Categorie}",
     .liste = u"Liste_DOHF",
@@ -82,7 +80,7 @@ constexpr Fiche_Diplome fiche_dohf = {
 
 constexpr Liste_Diplome liste_dohf = {
     .ecran = u"Liste_DOHF",
-    .diplome = Diplome::DOHF,
+    .sources = {Diplome::DOHF},
     .nom = u"Liste_DOHF_Contacte",
     .titre = u"Diplôme DOHF",
     .entete = u"Diplome {Niveau_Liste} {Libelle_Categorie}",
@@ -99,5 +97,5 @@ constexpr Liste_Diplome liste_dohf = {
     .pages = pages,
     .blancs_devant_numero = 0,
     .blancs_derriere_numero = 5,
-    .boutons = boutons,
+    .adif = Departement_Est_Categorie,
 };

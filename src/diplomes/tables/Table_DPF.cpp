@@ -1,13 +1,11 @@
 #include "diplomes/tables/Tables.h"
 
-#include "diplomes/regles/Evalue_Fiche.h"
+#include "diplomes/regles/Fiche_Des_Comptes.h"
 #include "diplomes/regles/Liste_DPF.h"
 #include "diplomes/regles/Regle_DPF.h"
 #include "diplomes/regles/Remplit_Liste.h"
 #include "diplomes/tables/Details.h"
 #include "log/Etat_Commun.h"
-#include "log/Poste.h"
-#include "plateforme/Dossier.h"
 
 #include <array>
 
@@ -49,9 +47,9 @@ constexpr Niveaux_DPF cinq_thf = Niveaux(80, 5, provinces_et_bandes, provinces_e
 constexpr QStringView colonnes_simple = u"    Province               Dpt  Indicatif       Date   Heure   Bande   Mode";
 constexpr QStringView colonnes_cinq_bandes = u"    Province               Bande   Dpt  Indicatif       Date   Heure  Mode";
 
-constexpr QStringView titre = u"   {Indicatif} Liste des Provinces contactées au {Date}";
+constexpr Gabarit_Sortie titre = u"   {Indicatif} Liste des Provinces contactées au {Date}";
 constexpr QStringView colonnes_de_fichier = u"   N°  Province                  Dpt  Indicatif      Date    Heure   Bande  Mode";
-constexpr QStringView nom_hf = u"{Indicatif}_Diplome_DPF_HF_{Code_Categorie}_{Mode_Liste}_{JJ_MM_AA}.txt";
+constexpr Gabarit_Sortie nom_hf = u"{Indicatif}_Diplome_DPF_HF_{Code_Categorie}_{Mode_Liste}_{JJ_MM_AA}.txt";
 constexpr std::array<Sortie_De_Liste, 3> fichiers = {{
     {u"THF", u"{Indicatif}_Diplome_DPF_THF_{Code_Categorie}_{JJ_MM_AA}.txt", titre, colonnes_de_fichier},
     {cinq_bandes_dpf, nom_hf, titre, u"   N°    Province                Band    Dpt Indicatif       Date    Heure  Mode"},
@@ -75,12 +73,11 @@ std::span<const Niveau_Diplome> Niveaux_De_La_Variante(const Etat_Commun &etat)
     return thf ? simple_thf : simple_hf;
 }
 
-Etat_Fiche Charge_Fiche_DPF(const Poste &poste, const Fiche_Diplome &fiche)
+Etat_Fiche Evalue_Fiche_DPF(const Fiche_Diplome &fiche, const Lectures &lues, const Etat_Commun &etat)
 {
     Fiche_Diplome de_la_variante = fiche;
-    de_la_variante.niveaux = Niveaux_De_La_Variante(poste.etat);
-    const Lignes_Texte lignes = poste.dossier.Lit_Lignes(poste.etat.station.Log(fiche.diplome));
-    return Evalue_Fiche(de_la_variante, Compte_DPF(lignes, poste.etat), poste.etat);
+    de_la_variante.niveaux = Niveaux_De_La_Variante(etat);
+    return Fiche_Des_Comptes(de_la_variante, Compte_DPF(lues.log, etat), etat);
 }
 
 QString Compte_Cinq_Bandes(const std::vector<QString> &rangs)
@@ -89,20 +86,19 @@ QString Compte_Cinq_Bandes(const std::vector<QString> &rangs)
            QString::number(rangs.size()) + u" QSO";
 }
 
-Etat_Liste Charge_Liste_DPF(const Poste &poste, const Liste_Diplome &liste)
+Etat_Liste Evalue_Liste_DPF(const Liste_Diplome &liste, const Lectures &lues, const Etat_Commun &etat)
 {
-    const Lignes_Texte lignes = poste.dossier.Lit_Lignes(poste.etat.station.Log(liste.diplome));
-    const std::vector<QString> rangs = Avec_Province(Rangs_Des_Lignes(lignes, poste.etat));
-    Etat_Liste etat = Textes_De_Liste(liste, poste.etat);
-    if (Est_Sur_Cinq_Bandes(poste.etat)) {
-        etat.colonnes = colonnes_cinq_bandes.toString();
-        etat.rangs = Par_Province_Et_Bande(rangs);
-        etat.compte = Compte_Cinq_Bandes(etat.rangs);
+    const std::vector<QString> rangs = Avec_Province(Rangs_Des_Lignes(lues.log, etat));
+    Etat_Liste resultat = Textes_De_Liste(liste, etat);
+    if (Est_Sur_Cinq_Bandes(etat)) {
+        resultat.colonnes = colonnes_cinq_bandes.toString();
+        resultat.rangs = Par_Province_Et_Bande(rangs);
+        resultat.compte = Compte_Cinq_Bandes(resultat.rangs);
     } else {
-        etat.rangs = Par_Province(rangs);
-        etat.compte = Compte_De_Liste(liste, etat.rangs.size(), poste.etat);
+        resultat.rangs = Par_Province(rangs);
+        resultat.compte = Compte_De_Liste(liste, resultat.rangs.size(), etat);
     }
-    return etat;
+    return resultat;
 }
 
 /// The class goes before the kind.
@@ -115,18 +111,18 @@ void Pose_Variante(Valeurs &valeurs, const Etat_Commun &etat)
 
 constexpr Fiche_Diplome fiche_dpf = {
     .ecran = u"Diplomes_DPF",
-    .diplome = Diplome::DPF,
+    .sources = {Diplome::DPF},
     .titre = u"Diplome DPF {Code_Categorie}",
     .entete = u"Diplome DPF {Code_Categorie}",
     .liste = u"Liste_DPF",
     .regles = {},
     .niveaux = simple_hf,
-    .charge = Charge_Fiche_DPF,
+    .evalue = Evalue_Fiche_DPF,
 };
 
 constexpr Liste_Diplome liste_dpf = {
     .ecran = u"Liste_DPF",
-    .diplome = Diplome::DPF,
+    .sources = {Diplome::DPF},
     .nom = u"Liste_DPF_Contacte",
     .titre = u"Diplôme DPF",
     .entete = u"Diplome DPF {Code_Categorie} {Bande_Liste} {Mode_Liste}",
@@ -137,5 +133,5 @@ constexpr Liste_Diplome liste_dpf = {
     .fichiers = fichiers,
     .pages = pages,
     .valeurs = Pose_Variante,
-    .charge = Charge_Liste_DPF,
+    .evalue = Evalue_Liste_DPF,
 };

@@ -1,8 +1,8 @@
 #include "diplomes/tables/Tables.h"
 
+#include "diplomes/modele/Rangs.h"
 #include "diplomes/regles/Lignes_Retenues.h"
 #include "diplomes/tables/Details.h"
-#include "diplomes/tables/Rangs.h"
 
 #include <array>
 
@@ -40,7 +40,7 @@ constexpr std::array<Titre_De_Liste, 4> titres = {{
 }};
 
 // The buttons give "MIX" and "DIGI", which have no row: those lists have neither file nor title.
-constexpr QStringView titre_de_fichier = u"   {Indicatif} Liste alphanumerique des Phares contactées mode {Mode_Liste} au {Date}";
+constexpr Gabarit_Sortie titre_de_fichier = u"   {Indicatif} Liste alphanumerique des Phares contactées mode {Mode_Liste} au {Date}";
 constexpr QStringView colonnes_de_fichier = u"   N°   Ref      Dpt      Nom de l'Ile                 Date    Heure  Indicatif";
 constexpr std::array<Sortie_De_Liste, 3> fichiers = {{
     {u"Mixte", u"{Indicatif}_Diplome_DPLF_{Mode_Liste}_{JJ_MM_AA}.txt", titre_de_fichier, colonnes_de_fichier},
@@ -48,7 +48,7 @@ constexpr std::array<Sortie_De_Liste, 3> fichiers = {{
     {u"CW", u"{Indicatif}_Diplome_DPLF_{Mode_Liste}_{JJ_MM_AA}.txt", titre_de_fichier, colonnes_de_fichier},
 }};
 
-constexpr QStringView titre_de_page = u"                 {Indicatif} Diplome DPLF {Mode_Liste} au {Date}";
+constexpr Gabarit_Sortie titre_de_page = u"                 {Indicatif} Diplome DPLF {Mode_Liste} au {Date}";
 constexpr QStringView colonnes_de_page = u"       N°   Ref      Dpt      Nom du Phare                 Date    Heure  Indicatif";
 constexpr std::array<Sortie_De_Liste, 3> pages = {{
     {u"Mixte", u"", titre_de_page, colonnes_de_page},
@@ -61,7 +61,7 @@ constexpr std::array<Sortie_De_Liste, 3> pages = {{
 
 constexpr Fiche_Diplome fiche_dplf = {
     .ecran = u"Diplomes_DPLF",
-    .diplome = Diplome::DPLF,
+    .sources = {Diplome::DPLF},
     .titre = u"Diplomes DPLF",
     .entete = u"Diplomes DPLF",
     .liste = u"Liste_DPLF",
@@ -71,7 +71,7 @@ constexpr Fiche_Diplome fiche_dplf = {
 
 constexpr Liste_Diplome liste_dplf = {
     .ecran = u"Liste_DPLF",
-    .diplome = Diplome::DPLF,
+    .sources = {Diplome::DPLF},
     .nom = u"Liste_DPLF_Contacte",
     .titre = u"Diplôme DPLF",
     .entete = u"Diplome DPLF {Mode_Liste}",

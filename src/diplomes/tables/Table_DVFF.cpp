@@ -1,9 +1,8 @@
 #include "diplomes/tables/Tables.h"
 
-#include "diplomes/ADIF_Ouvrages.h"
+#include "diplomes/modele/Rangs.h"
 #include "diplomes/regles/Lignes_Retenues.h"
 #include "diplomes/tables/Details.h"
-#include "diplomes/tables/Rangs.h"
 
 #include <array>
 
@@ -39,7 +38,7 @@ constexpr std::array<Niveau_Diplome, 7> niveaux = {{
      .seuil_n = 500, .detail = {Phrase(u"Label28", activites)}, .bouton = u"Maitre", .choix = {{.niveau_liste = u"Maitre d'ouvrage"}}},
 }};
 
-constexpr QStringView titre = u"   {Indicatif} Liste alphanumerique des DVFF contactés au {Date}";
+constexpr Gabarit_Sortie titre = u"   {Indicatif} Liste alphanumerique des DVFF contactés au {Date}";
 constexpr std::array<Sortie_De_Liste, 1> fichiers = {{
     {{}, u"{Indicatif} Diplome DVFF {Niveau_Liste} le {JJ_MM_AA}.txt", titre, u"   N°   Ref        Dpt     Nom de l'activité             Date    Heure  Indicatif"},
 }};
@@ -47,14 +46,13 @@ constexpr std::array<Sortie_De_Liste, 1> pages = {{
     {{}, u"", titre, u"       N°   Ref        Dpt  Nom de l'activité                Date    Heure  Indicatif"},
 }};
 
-constexpr std::array<Bouton_De_Liste, 1> boutons = {{{u"ADIF", u"Fichier ADIF", ADIF_DVFF}}};
 // clang-format on
 
 } // namespace
 
 constexpr Fiche_Diplome fiche_dvff = {
     .ecran = u"Diplomes_DVFF",
-    .diplome = Diplome::DVFF,
+    .sources = {Diplome::DVFF},
     .titre = u"Diplomes DVFF",
     .entete = u"Diplomes DVFF",
     .liste = u"Liste_DVFF",
@@ -64,7 +62,7 @@ constexpr Fiche_Diplome fiche_dvff = {
 
 constexpr Liste_Diplome liste_dvff = {
     .ecran = u"Liste_DVFF",
-    .diplome = Diplome::DVFF,
+    .sources = {Diplome::DVFF},
     .nom = u"Liste_DVFF_Contacte",
     .titre = u"Liste DVFF",
     .entete = u"Diplome DVFF {Niveau_Liste}",
@@ -76,5 +74,5 @@ constexpr Liste_Diplome liste_dvff = {
     .pages = pages,
     .blancs_devant_numero = 0,
     .blancs_derriere_numero = 5,
-    .boutons = boutons,
+    .adif = Toute_Ligne,
 };

@@ -1,9 +1,10 @@
 #include "diplomes/tables/Tables.h"
 
+#include "diplomes/modele/Rangs.h"
+#include "diplomes/regles/Fiche_Des_Comptes.h"
 #include "diplomes/regles/Lignes_Retenues.h"
 #include "diplomes/regles/Points_DYLF.h"
 #include "diplomes/tables/Details.h"
-#include "diplomes/tables/Rangs.h"
 
 #include <array>
 
@@ -31,7 +32,7 @@ constexpr std::array<Niveau_Diplome, 3> niveaux = {{
      .bouton = u"YL_Or", .choix = {{.code_categorie = u"OR"}}},
 }};
 
-constexpr QStringView titre_de_fichier = u"  {Indicatif} Liste alphanumerique des Yl's contactées au {Date}";
+constexpr Gabarit_Sortie titre_de_fichier = u"  {Indicatif} Liste alphanumerique des Yl's contactées au {Date}";
 constexpr QStringView colonnes_de_fichier = u"   N°  Indicatif     Prenom         Dpt  Ville                  Date    Heure";
 constexpr std::array<Sortie_De_Liste, 3> fichiers = {{
     {u"Bronze", u"{Indicatif}_Diplome_DYLF Bronze {JJ_MM_AA}.txt", titre_de_fichier, colonnes_de_fichier},
@@ -56,22 +57,28 @@ constexpr std::array<Colonne, 6> colonnes = {{
     {colonnes_log::Heure, 0},
 }};
 
+Etat_Fiche Evalue_Fiche_DYLF(const Fiche_Diplome &fiche, const Lectures &lues, const Etat_Commun &etat)
+{
+    const Comptes comptes = {.n = Points_De_Fiche(lues.log)};
+    return Fiche_Des_Comptes(fiche, std::span(&comptes, 1), etat);
+}
+
 } // namespace
 
 constexpr Fiche_Diplome fiche_dylf = {
     .ecran = u"Diplomes_DYLF",
-    .diplome = Diplome::DYLF,
+    .sources = {Diplome::DYLF},
     .titre = u"Diplomes  DYLF",
     .entete = u"Diplomes  DYLF",
     .liste = u"Liste_DYLF",
     .regles = {},
     .niveaux = niveaux,
-    .charge = Charge_DYLF,
+    .evalue = Evalue_Fiche_DYLF,
 };
 
 constexpr Liste_Diplome liste_dylf = {
     .ecran = u"Liste_DYLF",
-    .diplome = Diplome::DYLF,
+    .sources = {Diplome::DYLF},
     .nom = u"Liste_DYLF_Contacte",
     .titre = u"Liste DYLF",
     .entete = u"Diplome DYLF {Code_Categorie}",

@@ -1,8 +1,8 @@
 #include "diplomes/tables/Tables.h"
 
+#include "diplomes/modele/Rangs.h"
 #include "diplomes/regles/Lignes_Retenues.h"
 #include "diplomes/tables/Details.h"
-#include "diplomes/tables/Rangs.h"
 
 #include <array>
 
@@ -33,7 +33,7 @@ constexpr std::array<Niveau_Diplome, 5> niveaux = {{
      .seuil_n = 300, .detail = {Phrase(u"Label11", sites)}, .bouton = u"Maitre", .choix = {{.bande_liste = u"HF", .code_categorie = u"Top"}}},
 }};
 
-constexpr QStringView titre_de_fichier = u"   {Indicatif} Liste alphanumerique des Sites FFF contactés au {Date}";
+constexpr Gabarit_Sortie titre_de_fichier = u"   {Indicatif} Liste alphanumerique des Sites FFF contactés au {Date}";
 constexpr QStringView colonnes_de_fichier = u"   N°   Ref      Dpt   Nom du Site                     Date    Heure  Indicatif";
 constexpr std::array<Sortie_De_Liste, 4> fichiers = {{
     {u"de Base", u"{Indicatif}_Diplome_FFF_de_Base_{JJ_MM_AA}.txt", titre_de_fichier, colonnes_de_fichier},
@@ -55,7 +55,7 @@ constexpr std::array<Sortie_De_Liste, 4> pages = {{
 
 constexpr Fiche_Diplome fiche_fff = {
     .ecran = u"Diplomes_FFF",
-    .diplome = Diplome::FFF,
+    .sources = {Diplome::FFF},
     .titre = u"Diplomes FFF",
     .entete = u"Diplomes FFF",
     .liste = u"Liste_FFF",
@@ -65,7 +65,7 @@ constexpr Fiche_Diplome fiche_fff = {
 
 constexpr Liste_Diplome liste_fff = {
     .ecran = u"Liste_FFF",
-    .diplome = Diplome::FFF,
+    .sources = {Diplome::FFF},
     .nom = u"Liste_FFF_Contacte",
     .titre = u"Diplôme FFF",
     .entete = u"Diplome FFF {Code_Categorie}",

@@ -1,8 +1,8 @@
 #include "diplomes/tables/Tables.h"
 
+#include "diplomes/modele/Rangs.h"
 #include "diplomes/regles/Lignes_Retenues.h"
 #include "diplomes/tables/Details.h"
-#include "diplomes/tables/Rangs.h"
 
 #include <array>
 
@@ -32,7 +32,7 @@ constexpr std::array<Niveau_Diplome, 5> niveaux = {{
      .seuil_n = 500, .detail = {Phrase(u"Label11", patrimoines)}, .bouton = u"PC_500", .choix = {{.bande_liste = u"HF", .code_categorie = u"PC_500"}}},
 }};
 
-constexpr QStringView titre_de_fichier = u"   {Indicatif} Liste alphanumerique des Sites PC contactés au {Date}";
+constexpr Gabarit_Sortie titre_de_fichier = u"   {Indicatif} Liste alphanumerique des Sites PC contactés au {Date}";
 constexpr QStringView colonnes_de_fichier = u"   N°   Ref      Dpt   Nom du Site                     Date    Heure  Indicatif";
 constexpr std::array<Sortie_De_Liste, 5> fichiers = {{
     {u"PC_100", u"{Indicatif}_Diplome_PC_100_{JJ_MM_AA}.txt", titre_de_fichier, colonnes_de_fichier},
@@ -56,7 +56,7 @@ constexpr std::array<Sortie_De_Liste, 5> pages = {{
 
 constexpr Fiche_Diplome fiche_pc = {
     .ecran = u"Diplomes_PC",
-    .diplome = Diplome::PC,
+    .sources = {Diplome::PC},
     .titre = u"Diplomes PC",
     .entete = u"Diplomes PC",
     .liste = u"Liste_PC",
@@ -66,7 +66,7 @@ constexpr Fiche_Diplome fiche_pc = {
 
 constexpr Liste_Diplome liste_pc = {
     .ecran = u"Liste_PC",
-    .diplome = Diplome::PC,
+    .sources = {Diplome::PC},
     .nom = u"Liste_PC_Contacte",
     .titre = u"Diplôme PC",
     .entete = u"Diplome {Code_Categorie}",

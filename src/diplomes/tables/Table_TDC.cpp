@@ -1,15 +1,12 @@
 #include "diplomes/tables/Tables.h"
 
-#include "diplomes/regles/Evalue_Fiche.h"
+#include "diplomes/modele/Rangs.h"
+#include "diplomes/regles/Fiche_Des_Comptes.h"
 #include "diplomes/regles/Liste_Des_Lignes.h"
 #include "diplomes/regles/Regle_TDC.h"
 #include "diplomes/tables/Details.h"
-#include "diplomes/tables/Rangs.h"
-#include "listes/Index_Liste.h"
 #include "listes/Table_Recherches.h"
 #include "log/Etat_Commun.h"
-#include "log/Poste.h"
-#include "plateforme/Dossier.h"
 
 #include <array>
 
@@ -33,22 +30,15 @@ constexpr std::array<Sortie_De_Liste, 1> pages = {{
 }};
 // clang-format on
 
-std::vector<QStringView> Lignes_Confirmees(const Poste &poste, const Lignes_Texte &lignes, QStringView ligne_de_tours)
+Etat_Fiche Evalue_Fiche_TDC(const Fiche_Diplome &fiche, const Lectures &lues, const Etat_Commun &etat)
 {
-    Index_Liste tours(recherches::Ligne_TDC, poste.dossier);
-    return Lignes_TDC(lignes, ligne_de_tours, tours);
-}
-
-Etat_Fiche Charge_Fiche_TDC(const Poste &poste, const Fiche_Diplome &fiche)
-{
-    const Lignes_Texte lignes = poste.dossier.Lit_Lignes(poste.etat.station.Log(fiche.diplome));
-    const std::size_t nombre = Lignes_Confirmees(poste, lignes, poste.etat.libelle_categorie).size();
+    const std::size_t nombre = Lignes_TDC(lues, etat.libelle_categorie).size();
     Niveau_Diplome niveau = niveaux.front();
-    niveau.seuil_n = poste.etat.nb_tours_ligne;
+    niveau.seuil_n = etat.nb_tours_ligne;
     Fiche_Diplome de_la_ligne = fiche;
     de_la_ligne.niveaux = {&niveau, 1};
     const std::array comptes = {Comptes{.n = static_cast<int>(nombre)}};
-    return Evalue_Fiche(de_la_ligne, comptes, poste.etat);
+    return Fiche_Des_Comptes(de_la_ligne, comptes, etat);
 }
 
 void Copie_Ligne(Etat_Commun &etat)
@@ -56,17 +46,18 @@ void Copie_Ligne(Etat_Commun &etat)
     etat.code_categorie = etat.libelle_categorie;
 }
 
-Etat_Liste Charge_Liste_TDC(const Poste &poste, const Liste_Diplome &liste)
+Etat_Liste Evalue_Liste_TDC(const Liste_Diplome &liste, const Lectures &lues, const Etat_Commun &etat)
 {
-    const Lignes_Texte lignes = poste.dossier.Lit_Lignes(poste.etat.station.Log(liste.diplome));
-    return Liste_Des_Lignes(liste, Lignes_Confirmees(poste, lignes, poste.etat.code_categorie), poste.etat);
+    return Liste_Des_Lignes(liste, Lignes_TDC(lues, etat.code_categorie), etat);
 }
+
+constexpr Sources sources = {.diplome = Diplome::TDC, .references = &recherches::Ligne_TDC};
 
 } // namespace
 
 constexpr Fiche_Diplome fiche_tdc = {
     .ecran = u"Diplomes_TDC",
-    .diplome = Diplome::TDC,
+    .sources = sources,
     .titre = u"Diplome TDC {Libelle_Categorie}",
     .entete = u"Diplome TDC {Libelle_Categorie}",
     .liste = u"Liste_TDC",
@@ -74,13 +65,13 @@ constexpr Fiche_Diplome fiche_tdc = {
     .niveaux = niveaux,
     .juge = Juge_TDC,
     .avant_liste = Copie_Ligne,
-    .charge = Charge_Fiche_TDC,
+    .evalue = Evalue_Fiche_TDC,
 };
 
 // The heading shows the band that another award left behind, or nothing.
 constexpr Liste_Diplome liste_tdc = {
     .ecran = u"Liste_TDC",
-    .diplome = Diplome::TDC,
+    .sources = sources,
     .nom = u"Liste_TDC_Contacte",
     .titre = u"Diplôme TDC",
     .entete = u"Diplome TDC {Bande_Liste}",
@@ -89,5 +80,5 @@ constexpr Liste_Diplome liste_tdc = {
     .rang = rang_commun_ref_10,
     .fichiers = fichiers,
     .pages = pages,
-    .charge = Charge_Liste_TDC,
+    .evalue = Evalue_Liste_TDC,
 };

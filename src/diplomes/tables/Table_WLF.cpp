@@ -1,8 +1,8 @@
 #include "diplomes/tables/Tables.h"
 
+#include "diplomes/modele/Rangs.h"
 #include "diplomes/regles/Lignes_Retenues.h"
 #include "diplomes/tables/Details.h"
-#include "diplomes/tables/Rangs.h"
 
 #include <array>
 
@@ -34,7 +34,7 @@ constexpr std::array<Niveau_Diplome, 5> niveaux = {{
 }};
 
 // The files and the paper of the lakes bear the name of FFF, and replace an FFF file of the same day.
-constexpr QStringView titre_de_fichier = u"   {Indicatif} Liste alphanumerique des Sites contactés au {Date}";
+constexpr Gabarit_Sortie titre_de_fichier = u"   {Indicatif} Liste alphanumerique des Sites contactés au {Date}";
 constexpr QStringView colonnes_de_fichier = u"   N°    Ref      Dpt   Nom du Site                     Date    Heure  Indicatif";
 constexpr std::array<Sortie_De_Liste, 4> fichiers = {{
     {u"de Base", u"{Indicatif}_Diplome_FFF_de_Base_{JJ_MM_AA}.txt", titre_de_fichier, colonnes_de_fichier},
@@ -56,7 +56,7 @@ constexpr std::array<Sortie_De_Liste, 4> pages = {{
 
 constexpr Fiche_Diplome fiche_wlf = {
     .ecran = u"Diplomes_WLF",
-    .diplome = Diplome::WLF,
+    .sources = {Diplome::WLF},
     .titre = u"Diplomes WLF",
     .entete = u"Diplomes WLF",
     .liste = u"Liste_WLF",
@@ -66,7 +66,7 @@ constexpr Fiche_Diplome fiche_wlf = {
 
 constexpr Liste_Diplome liste_wlf = {
     .ecran = u"Liste_WLF",
-    .diplome = Diplome::WLF,
+    .sources = {Diplome::WLF},
     .nom = u"Liste_WLF_Contacte",
     .titre = u"Diplôme WLF",
     .entete = u"Diplome WLF {Code_Categorie}",

@@ -1,78 +1,66 @@
 #include "diplomes/tables/Tables.h"
 
-#include <array>
+#include "log/Par_Diplome.h"
+
+#include <algorithm>
 
 namespace {
 
 // clang-format off
-constexpr std::array fiches = {
-    &fiche_ch_dfcf,
-    &fiche_daf,
-    &fiche_dcf,
-    &fiche_dcpf,
-    &fiche_ddfm,
-    &fiche_dfcf,
-    &fiche_dff,
-    &fiche_difi,
-    &fiche_difm,
-    &fiche_dlf,
-    &fiche_dmf,
-    &fiche_dohf,
-    &fiche_dpf,
-    &fiche_dplf,
-    &fiche_dvff,
-    &fiche_dylf,
-    &fiche_fff,
-    &fiche_pc,
-    &fiche_tdc,
-    &fiche_wlf,
-};
-constexpr std::array listes = {
-    &liste_ch_dfcf,
-    &liste_daf,
-    &liste_dcf,
-    &liste_dcpf,
-    &liste_ddfm,
-    &liste_dfcf,
-    &liste_dff,
-    &liste_difi,
-    &liste_difm,
-    &liste_dlf,
-    &liste_dmf,
-    &liste_dohf,
-    &liste_dpf,
-    &liste_dplf,
-    &liste_dvff,
-    &liste_dylf,
-    &liste_fff,
-    &liste_pc,
-    &liste_tdc,
-    &liste_wlf,
-};
-constexpr std::array choix = {
-    &choix_daf,
-    &choix_dcpf,
-    &choix_ddfm,
-    &choix_dff,
-    &choix_dohf,
-    &choix_dpf,
-    &choix_tdc,
-};
+constexpr Par_Diplome<Tables_Du_Diplome> tables = {{
+    {Diplome::Ch_DFCF, {&fiche_ch_dfcf, &liste_ch_dfcf}},
+    {Diplome::Ch_DMF, {&fiche_ch_dfcf, &liste_ch_dfcf}},
+    {Diplome::DAF, {&fiche_daf, &liste_daf, &choix_daf}},
+    {Diplome::DCF, {&fiche_dcf, &liste_dcf}},
+    {Diplome::DCPF, {&fiche_dcpf, &liste_dcpf, &choix_dcpf}},
+    {Diplome::DDFM, {&fiche_ddfm, &liste_ddfm, &choix_ddfm}},
+    {Diplome::DFCF, {&fiche_dfcf, &liste_dfcf}},
+    {Diplome::DFF, {&fiche_dff, &liste_dff, &choix_dff}},
+    {Diplome::DIFI, {&fiche_difi, &liste_difi}},
+    {Diplome::DIFM, {&fiche_difm, &liste_difm}},
+    {Diplome::DLF, {&fiche_dlf, &liste_dlf}},
+    {Diplome::DMF, {&fiche_dmf, &liste_dmf}},
+    {Diplome::DOHF, {&fiche_dohf, &liste_dohf, &choix_dohf}},
+    {Diplome::DPF, {&fiche_dpf, &liste_dpf, &choix_dpf}},
+    {Diplome::DPLF, {&fiche_dplf, &liste_dplf}},
+    {Diplome::DVFF, {&fiche_dvff, &liste_dvff}},
+    {Diplome::DYLF, {&fiche_dylf, &liste_dylf}},
+    {Diplome::FFF, {&fiche_fff, &liste_fff}},
+    {Diplome::PC, {&fiche_pc, &liste_pc}},
+    {Diplome::TDC, {&fiche_tdc, &liste_tdc, &choix_tdc}},
+    {Diplome::WLF, {&fiche_wlf, &liste_wlf}},
+}};
 // clang-format on
+
+/// The tables of one kind in the order of the awards, each once.
+template <typename Table>
+std::vector<const Table *> Chacune(const Table *Tables_Du_Diplome::*genre)
+{
+    std::vector<const Table *> chacune;
+    for (const Diplome diplome : tous_les_diplomes)
+        if (const Table *table = tables[diplome].*genre; table && std::ranges::count(chacune, table) == 0)
+            chacune.push_back(table);
+    return chacune;
+}
 
 } // namespace
 
-std::span<const Fiche_Diplome *const> Fiches()
+const Tables_Du_Diplome &Tables_De(Diplome diplome)
 {
-    return fiches;
+    return tables[diplome];
 }
 
-std::span<const Liste_Diplome *const> Listes()
+std::vector<const Fiche_Diplome *> Fiches()
 {
-    return listes;
+    return Chacune(&Tables_Du_Diplome::fiche);
 }
 
-std::span<const Choix_Diplome *const> Choix_De_Diplomes()
+std::vector<const Liste_Diplome *> Listes()
 {
-    return choix;
+    return Chacune(&Tables_Du_Diplome::liste);
+}
+
+std::vector<const Choix_Diplome *> Choix_De_Diplomes()
+{
+    return Chacune(&Tables_Du_Diplome::choix);
 }

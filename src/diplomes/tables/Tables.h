@@ -1,10 +1,10 @@
 #pragma once
 
-#include "diplomes/Choix_Diplome.h"
-#include "diplomes/Fiche_Diplome.h"
-#include "diplomes/Liste_Diplome.h"
+#include "diplomes/modele/Choix_Diplome.h"
+#include "diplomes/modele/Fiche_Diplome.h"
+#include "diplomes/modele/Liste_Diplome.h"
 
-#include <span>
+#include <vector>
 
 // The awards as data, each in its own Table_<code>.cpp.
 
@@ -58,7 +58,16 @@ extern const Choix_Diplome choix_dohf;
 extern const Choix_Diplome choix_dpf;
 extern const Choix_Diplome choix_tdc;
 
+/// What an award shows. Two awards may share a sheet and a list.
+struct Tables_Du_Diplome {
+    const Fiche_Diplome *fiche;
+    const Liste_Diplome *liste;
+    const Choix_Diplome *choix = nullptr; ///< the screen in front of the sheet, if there is one
+};
+
+const Tables_Du_Diplome &Tables_De(Diplome diplome);
+
 /// Every sheet, every list and every choice screen that the frames show.
-std::span<const Fiche_Diplome *const> Fiches();
-std::span<const Liste_Diplome *const> Listes();
-std::span<const Choix_Diplome *const> Choix_De_Diplomes();
+std::vector<const Fiche_Diplome *> Fiches();
+std::vector<const Liste_Diplome *> Listes();
+std::vector<const Choix_Diplome *> Choix_De_Diplomes();

@@ -1,4 +1,4 @@
-#include "diplomes/Etat_Fiche.h"
+#include "diplomes/modele/Etat_Fiche.h"
 
 Etiquette *Cherche_Etiquette(Etat_Fiche &etat, QStringView nom)
 {

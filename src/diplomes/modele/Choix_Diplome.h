@@ -1,6 +1,6 @@
 #pragma once
 
-#include "diplomes/Choix.h"
+#include "diplomes/modele/Choix.h"
 
 #include <QString>
 #include <QStringView>
@@ -40,8 +40,5 @@ struct Choix_Diplome {
     std::span<const Groupe_Options> groupes;
 };
 
-struct Poste;
-
-/// Afficher with this option on: sets its texts and shows its screen. `bande` is the text of its selector, if it has
-/// one.
-void Affiche_Option(Poste &poste, const Option_Diplome &option, const QString &bande = {});
+/// Sets what the option gives, `bande` being the text of its selector, if it has one.
+void Applique(const Option_Diplome &option, const QString &bande, Etat_Commun &etat);

@@ -1,6 +1,6 @@
-#include "diplomes/regles/Evalue_Fiche.h"
+#include "diplomes/regles/Fiche_Des_Comptes.h"
 
-#include "diplomes/Gabarit.h"
+#include "diplomes/modele/Valeurs.h"
 
 #include <QSet>
 
@@ -74,12 +74,7 @@ void Ouvre_Boutons(const Niveau_Diplome &niveau, QSet<QString> &ouverts)
 
 } // namespace
 
-Verdict Juge(const Niveau_Diplome &niveau, Comptes comptes)
-{
-    return comptes.n >= niveau.seuil_n && comptes.d >= niveau.seuil_d ? Verdict::Atteint : Verdict::Manque;
-}
-
-Etat_Fiche Evalue_Fiche(const Fiche_Diplome &fiche, std::span<const Comptes> comptes, const Etat_Commun &etat)
+Etat_Fiche Fiche_Des_Comptes(const Fiche_Diplome &fiche, std::span<const Comptes> comptes, const Etat_Commun &etat)
 {
     Valeurs valeurs(etat);
     Etat_Fiche resultat{Compose(fiche.titre, valeurs), Compose(fiche.entete, valeurs), {}};

@@ -1,10 +1,8 @@
-#include "diplomes/Challenge.h"
+#include "diplomes/regles/Canal.h"
 
 #include "listes/Index_Liste.h"
 #include "log/Etat_Commun.h"
 #include "log/Ligne_Log.h"
-#include "log/Poste.h"
-#include "plateforme/Dossier.h"
 
 #include <cmath>
 
@@ -40,6 +38,8 @@ QString Rang(std::size_t numero, QStringView ligne)
 
 } // namespace
 
+const Sources sources_du_canal = {.diplome = Diplome::DOHF, .references = &ouvrage_du_canal};
+
 std::array<Palier, 4> Paliers(int contactes, int ouvrages)
 {
     // clang-format off
@@ -63,14 +63,12 @@ std::array<Palier, 4> Paliers(int contactes, int ouvrages)
     return paliers;
 }
 
-Etat_Challenge Charge_Challenge(const Poste &poste)
+Etat_Challenge Evalue_Challenge(const Lectures &lues, const Etat_Commun &etat)
 {
-    const Etat_Commun &etat = poste.etat;
-    Index_Liste ouvrages(ouvrage_du_canal, poste.dossier);
+    Index_Liste ouvrages(ouvrage_du_canal, lues.references);
     const QString canal = QString::number(etat.numero_canal);
-    const Lignes_Texte lignes = poste.dossier.Lit_Lignes(etat.station.Log(Diplome::DOHF));
     std::vector<QString> rangs;
-    for (const QStringView ligne : lignes)
+    for (const QStringView ligne : lues.log)
         if (ouvrages.Cherche(Cle(Lit_Rogne(ligne, col::Ref).toString(), canal)).trouvee)
             rangs.push_back(Rang(rangs.size() + 1, ligne));
     const auto paliers = Paliers(static_cast<int>(rangs.size()), etat.nb_ouvrages_canal);

@@ -1,7 +1,10 @@
 #pragma once
 
-#include "diplomes/Fiche_Diplome.h"
-#include "diplomes/Gabarit.h"
+#include "diplomes/modele/Classe_Bande.h"
+#include "diplomes/modele/Fiche_Diplome.h"
+#include "diplomes/modele/Gabarit.h"
+#include "diplomes/modele/Lectures.h"
+#include "diplomes/modele/Valeurs.h"
 #include "log/Champ.h"
 
 #include <QString>
@@ -34,14 +37,14 @@ enum class Departement {
 /// A title of the window, by the value of its selector.
 struct Titre_De_Liste {
     QStringView valeur;
-    QStringView titre;
+    Gabarit_Ecran titre;
 };
 
 /// The file or the page of a tier. `valeur` is that of the selector; a row without one takes any value.
 struct Sortie_De_Liste {
     std::optional<QStringView> valeur;
-    QStringView fichier; ///< its name; empty for a page
-    QStringView titre;
+    Gabarit_Sortie fichier; ///< its name; empty for a page
+    Gabarit_Sortie titre;
     QStringView colonnes;
 };
 
@@ -50,6 +53,8 @@ struct Excellence {
     QStringView colonnes; ///< the header above them
     Forme_Rang rang;
 };
+
+struct Liste_Diplome;
 
 /// All that a list shows. `rangs` are in their order.
 struct Etat_Liste {
@@ -63,50 +68,38 @@ struct Etat_Liste {
     std::vector<QString> pied_imprime = {};
 };
 
-struct Liste_Diplome;
-
-/// Reads the log of the list and keeps the lines of the tier. Throws Erreur_Execution for an absent log.
-Etat_Liste Charge_Par_Lignes(const Poste &poste, const Liste_Diplome &liste);
-
-/// A further button of a list. The screen shows `etat` again after it.
-struct Bouton_De_Liste {
-    QStringView nom;
-    QStringView texte;
-    void (*presse)(Poste &poste, const Liste_Diplome &liste, Etat_Liste &etat);
-};
-
-/// The list of an award as data. All texts may name the shared texts; those of files and pages also the day; `compte`
-/// names {c}.
+/// The list of an award as data.
 struct Liste_Diplome {
     QStringView ecran;
-    Diplome diplome;   ///< of the log
-    QStringView nom;   ///< of the list box
-    QStringView titre; ///< of the window, where no other is chosen
-    QStringView entete;
+    Sources sources;
+    QStringView nom;     ///< of the list box
+    Gabarit_Ecran titre; ///< of the window, where no other is chosen
+    Gabarit_Ecran entete;
     QStringView colonnes;
-    QStringView compte;
+    Gabarit_Compte compte; ///< names {c}
     Forme_Rang rang;
 
     Predicat retient = nullptr;
     Departement departement = Departement::Ignore;
     /// The class of a line by its trimmed band and the class of the line before it, and the class that stands in the
     /// list.
-    QStringView (*classe)(QStringView bande, QStringView avant) = nullptr;
-    QStringView classe_voulue = {};
+    Classe_Bande (*classe)(QStringView bande, Classe_Bande avant) = nullptr;
+    Gabarit_Ecran classe_voulue = {};
     const Excellence *excellence = nullptr;
 
-    QStringView selecteur_titre = {}; ///< "{Bande_Liste}"
+    Gabarit_Ecran selecteur_titre = {}; ///< "{Bande_Liste}"
     std::span<const Titre_De_Liste> titres = {};
 
-    QStringView selecteur = {}; ///< "{Code_Categorie}"
+    Gabarit_Sortie selecteur = {}; ///< "{Code_Categorie}"
     std::span<const Sortie_De_Liste> fichiers = {};
     std::span<const Sortie_De_Liste> pages = {};
     qsizetype blancs_devant_numero = 4; ///< on the page
     qsizetype blancs_derriere_numero = 1;
-    /// Gives the selector and the texts of files and pages values of the award's own.
+    /// Gives the texts values of the award's own.
     void (*valeurs)(Valeurs &valeurs, const Etat_Commun &etat) = nullptr;
 
-    std::span<const Bouton_De_Liste> boutons = {};
-    /// The whole load, for a list that is not a filter over lines.
-    Etat_Liste (*charge)(const Poste &poste, const Liste_Diplome &liste) = Charge_Par_Lignes;
+    /// The lines that the button ADIF writes to its file; without it there is no such button.
+    Predicat adif = nullptr;
+    /// Works the list out, where that is not a filter over lines.
+    Etat_Liste (*evalue)(const Liste_Diplome &liste, const Lectures &lues, const Etat_Commun &etat) = nullptr;
 };

@@ -5,8 +5,6 @@
 #include <array>
 #include <vector>
 
-struct Poste;
-
 /// A step of a canal board: its label, what is missing to it, and the button of its ADIF file.
 struct Palier {
     QStringView etiquette;
@@ -27,10 +25,3 @@ struct Etat_Challenge {
 /// The header above the rows.
 inline constexpr QStringView colonnes_challenge =
     u"   Nb    Ref           Nom de l'ouvrage               Date   Indicatif     QSL";
-
-/// The steps for `contactes` works of a canal that has `ouvrages`.
-std::array<Palier, 4> Paliers(int contactes, int ouvrages);
-
-/// The board of the canal in the common state: every line of the DOHF log with a work on it, confirmed or not. Throws
-/// Erreur_Execution if the log or the list of works is absent, and for a line of that with fewer than ten separators.
-Etat_Challenge Charge_Challenge(const Poste &poste);

@@ -9,7 +9,7 @@
 
 struct Etat_Commun;
 
-/// The values that the texts of the award tables name in braces: "Diplome DFCF {Bande_Liste} {Code_Categorie}".
+/// The values that the texts of the award tables name in braces.
 class Valeurs {
 public:
     Valeurs() = default;

@@ -1,4 +1,4 @@
-#include "diplomes/Choix.h"
+#include "diplomes/modele/Choix.h"
 
 #include "log/Etat_Commun.h"
 

@@ -1,4 +1,4 @@
-#include "diplomes/Gabarit.h"
+#include "diplomes/modele/Valeurs.h"
 
 #include "log/Etat_Commun.h"
 #include "log/Moment.h"

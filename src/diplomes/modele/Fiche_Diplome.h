@@ -1,8 +1,9 @@
 #pragma once
 
-#include "diplomes/Choix.h"
-#include "diplomes/Etat_Fiche.h"
-#include "log/Diplome.h"
+#include "diplomes/modele/Choix.h"
+#include "diplomes/modele/Etat_Fiche.h"
+#include "diplomes/modele/Gabarit.h"
+#include "diplomes/modele/Lectures.h"
 
 #include <QStringView>
 
@@ -12,7 +13,6 @@
 #include <span>
 
 struct Etat_Commun;
-struct Poste;
 
 /// What a sheet counts: lines of the log and the departments they come from.
 struct Comptes {
@@ -33,19 +33,19 @@ struct Regle_Compte {
 /// {manque_n} and {manque_d} (never below 0), the plain differences {reste_n} and {reste_d}, and the shared texts.
 struct Texte_Detail {
     QStringView nom = {};
-    QStringView manque = {};
-    QStringView atteint = {};
-    QStringView inchange = {}; ///< as the screen was drawn
+    Gabarit_Niveau manque = {};
+    Gabarit_Niveau atteint = {};
+    Gabarit_Niveau inchange = {}; ///< as the screen was drawn
 };
 
 using Details = std::array<Texte_Detail, 5>;
 
 /// A tier of a sheet. It is reached when both counts are at least their thresholds; 0 asks for nothing.
 struct Niveau_Diplome {
-    QStringView etat = {};    ///< name of the status label
-    QStringView attente = {}; ///< its text at load
-    QStringView atteint = {};
-    QStringView manque = {}; ///< its text when the tier is not reached, if that of the load does not stay
+    QStringView etat = {};       ///< name of the status label
+    Gabarit_Niveau attente = {}; ///< its text at load
+    Gabarit_Niveau atteint = {};
+    Gabarit_Niveau manque = {}; ///< its text when the tier is not reached, if that of the load does not stay
     int seuil_n = 0;
     int seuil_d = 0;
     std::size_t regle = 0; ///< which of the sheet's rules counts for it
@@ -65,16 +65,14 @@ struct Fiche_Diplome;
 
 /// Reached when every count is at least its threshold.
 Verdict Juge(const Niveau_Diplome &niveau, Comptes comptes);
-/// Reads the log of the sheet and works out its tiers. Throws Erreur_Execution for an absent log.
-Etat_Fiche Charge_Par_Niveaux(const Poste &poste, const Fiche_Diplome &fiche);
 
 /// The sheet of an award as data. What an award does in its own way is a function in one of the last four places.
 struct Fiche_Diplome {
     QStringView ecran;
-    Diplome diplome;    ///< of the log
-    QStringView titre;  ///< of the window
-    QStringView entete; ///< the heading; both may name the shared texts
-    QStringView liste;  ///< the screen that a tier's button shows
+    Sources sources;
+    Gabarit_Ecran titre;  ///< of the window
+    Gabarit_Ecran entete; ///< the heading
+    QStringView liste;    ///< the screen that a tier's button shows
     std::span<const Regle_Compte> regles;
     std::span<const Niveau_Diplome> niveaux; ///< in the order of the screen
     Verdict (*juge)(const Niveau_Diplome &niveau, Comptes comptes) = Juge;
@@ -82,6 +80,6 @@ struct Fiche_Diplome {
     void (*retouche)(Etat_Fiche &etat) = nullptr;
     /// Runs between what a button sets and the list.
     void (*avant_liste)(Etat_Commun &etat) = nullptr;
-    /// The whole load, for a sheet that is not worked out tier by tier from counts of lines.
-    Etat_Fiche (*charge)(const Poste &poste, const Fiche_Diplome &fiche) = Charge_Par_Niveaux;
+    /// Works the sheet out, where that is not done tier by tier from the counts of its rules.
+    Etat_Fiche (*evalue)(const Fiche_Diplome &fiche, const Lectures &lues, const Etat_Commun &etat) = nullptr;
 };

@@ -1,0 +1,8 @@
+#pragma once
+
+#include "diplomes/regles/Points_DYLF.h"
+
+struct Poste;
+
+/// The rows of the score table of the current station. Throws Erreur_Execution for an absent log.
+std::array<Score, nombre_scores> Charge_Scores_DYLF(const Poste &poste);

@@ -1,0 +1,2 @@
+// A table reads and writes nothing.
+#include "diplomes/Charge_Fiche.h"
