@@ -12,6 +12,7 @@
 #include <benchmark/benchmark.h>
 
 using namespace Qt::StringLiterals;
+using namespace diplomes;
 
 namespace {
 

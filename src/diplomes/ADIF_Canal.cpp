@@ -14,6 +14,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace diplomes {
+
 namespace {
 
 /// The columns as the record reads them.
@@ -72,3 +74,5 @@ void ADIF_Challenge(Poste &poste, const Etat_Challenge &etat, QStringView palier
     poste.dossier.Remplace(nom, texte, u"Temporaire_Liste.txt"_s);
     poste.boites.Message(u"Le fichier a été enregistré sous le nom : "_s + nom);
 }
+
+} // namespace diplomes

@@ -13,6 +13,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace diplomes {
+
 QString Entete_ADIF(const Etat_Commun &etat, Diplome diplome)
 {
     const std::array<QString, 6> lignes = {
@@ -41,3 +43,5 @@ void ADIF_Ouvrages(Poste &poste, const Liste_Diplome &liste, Etat_Liste &etat)
     poste.dossier.Remplace(nom, texte, u"Temporaire_ADIF.txt"_s);
     poste.boites.Message(u"Le fichier a été enregistré sous le nom : "_s + nom);
 }
+
+} // namespace diplomes

@@ -4,6 +4,8 @@
 
 struct Poste;
 
+namespace diplomes {
+
 /// The lines of an award's ADIF file down to its "<eoh>", each with its line end.
 QString Entete_ADIF(const Etat_Commun &etat, Diplome diplome);
 
@@ -11,3 +13,5 @@ QString Entete_ADIF(const Etat_Commun &etat, Diplome diplome);
 /// Repertoire_Appli; the log is read again, and the rows play no part. The name is told at the end. Throws
 /// Erreur_Execution for an absent log or a name that the disk refuses.
 void ADIF_Ouvrages(Poste &poste, const Liste_Diplome &liste, Etat_Liste &etat);
+
+} // namespace diplomes

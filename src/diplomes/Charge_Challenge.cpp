@@ -4,7 +4,11 @@
 #include "diplomes/regles/Canal.h"
 #include "log/Poste.h"
 
+namespace diplomes {
+
 Etat_Challenge Charge_Challenge(const Poste &poste)
 {
     return Evalue_Challenge(Lit_Sources(poste, sources_du_canal), poste.etat);
 }
+
+} // namespace diplomes

@@ -6,6 +6,8 @@
 #include "log/Poste.h"
 #include "plateforme/Ecrans.h"
 
+namespace diplomes {
+
 Etat_Fiche Charge_Fiche(const Poste &poste, const Fiche_Diplome &fiche)
 {
     return Evalue_Fiche(fiche, Lit_Sources(poste, fiche.sources), poste.etat);
@@ -23,3 +25,5 @@ void Presse_Bouton(Poste &poste, const Fiche_Diplome &fiche, QStringView bouton)
         return;
     }
 }
+
+} // namespace diplomes

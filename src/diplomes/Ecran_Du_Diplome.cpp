@@ -2,6 +2,8 @@
 
 #include "diplomes/tables/Tables.h"
 
+namespace diplomes {
+
 QString Ecran_Du_Diplome(std::optional<Diplome> diplome)
 {
     if (!diplome)
@@ -9,3 +11,5 @@ QString Ecran_Du_Diplome(std::optional<Diplome> diplome)
     const Tables_Du_Diplome &siennes = Tables_De(*diplome);
     return (siennes.choix ? siennes.choix->ecran : siennes.fiche->ecran).toString();
 }
+
+} // namespace diplomes

@@ -5,6 +5,8 @@
 #include "log/Poste.h"
 #include "plateforme/Dossier.h"
 
+namespace diplomes {
+
 namespace {
 
 Diplome Diplome_Lu(const Sources &sources, const Station_Courante &station)
@@ -21,3 +23,5 @@ Lectures Lit_Sources(const Poste &poste, const Sources &sources)
         lues.references = poste.dossier.Lit_Lignes(sources.references->lecture.fichier.toString());
     return lues;
 }
+
+} // namespace diplomes

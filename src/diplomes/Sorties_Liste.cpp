@@ -10,6 +10,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace diplomes {
+
 namespace {
 
 constexpr Gabarit_Sortie signature_de_fichier = u"                        Vorlain {AAAA}";
@@ -101,3 +103,5 @@ void Imprime_Liste(Poste &poste, const Liste_Diplome &liste, const Etat_Liste &e
     if (refus)
         poste.boites.Message(*refus);
 }
+
+} // namespace diplomes

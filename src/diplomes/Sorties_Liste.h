@@ -4,6 +4,8 @@
 
 struct Poste;
 
+namespace diplomes {
+
 // The rules: the lines of the file and of the page, from first to last.
 
 /// Title, column line, the rows with their numbers, and the signature. Without a `sortie` both lines stay empty.
@@ -23,3 +25,5 @@ QString Numero_De_Rang(std::size_t nombre);
 void Enregistre_Liste(Poste &poste, const Liste_Diplome &liste, const Etat_Liste &etat);
 /// Prints the list; what kept it from paper is told.
 void Imprime_Liste(Poste &poste, const Liste_Diplome &liste, const Etat_Liste &etat);
+
+} // namespace diplomes

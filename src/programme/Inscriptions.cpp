@@ -61,7 +61,7 @@ void Inscrit_Ecrans(Registre &registre, Poste &poste, Vue_Saisie &vue)
 {
     using enum Reouverture;
     registre.Inscrit_Ecran({u"Station"_s, [&poste, &vue] { return new Station(poste, vue); }});
-    for (const Inscription &ecran : Ecrans_Diplomes(poste))
+    for (const Inscription &ecran : diplomes::Ecrans_Diplomes(poste))
         registre.Inscrit_Ecran(ecran);
     Inscrit_Ecran<Detail_DFCF>(registre, poste, u"Detail_DFCF"_s, Telle_Quelle);
     Inscrit_Ecran<Detail_FFF>(registre, poste, u"Detail_FFF"_s, Telle_Quelle);
@@ -100,8 +100,9 @@ void Inscrit_Commandes(Registre &registre, Poste &poste)
     commande(u"Liste_Des_Iles"_s, Liste_Des_Iles);
     commande(u"Nouvelle_Revision"_s, Nouvelle_Revision);
     // The award that Dip_A shows, opened with Enter or not; a text that is no award has no screen.
-    registre.Inscrit_Commande(u"Fiche_Diplome"_s,
-                              [&poste] { poste.ecrans.Montre(Ecran_Du_Diplome(Diplome_De(poste.ecran.Dip_A()))); });
+    registre.Inscrit_Commande(u"Fiche_Diplome"_s, [&poste] {
+        poste.ecrans.Montre(diplomes::Ecran_Du_Diplome(Diplome_De(poste.ecran.Dip_A())));
+    });
     for (const Maj &maj : Majs_Liste())
         registre.Inscrit_Commande(maj.menu.toString(), [&poste, &maj] { Maj_Liste(poste, maj); });
     for (const Maj_Nom &maj : Majs_Nom())

@@ -10,6 +10,8 @@
 
 #include <random>
 
+using namespace diplomes;
+
 // Sheets and lists over a log on the disk.
 
 inline Etat_Fiche Fiche_De(Poste_Essai &essai, const Fiche_Diplome &fiche, const QString &log,

@@ -6,6 +6,8 @@
 
 #include <stdexcept>
 
+using namespace diplomes;
+
 inline Etat_Fiche Etat_De(const Fiche_Diplome &fiche, const Lignes_Essai &lignes, const Etat_Commun &etat = {})
 {
     return Fiche_Des_Comptes(fiche, Compte(fiche.regles, En_Texte(lignes), etat), etat);

@@ -10,6 +10,8 @@
 
 #include <map>
 
+using namespace diplomes;
+
 namespace {
 
 const QByteArray entete_dohf = "Vorlain_DOHF\r\n"

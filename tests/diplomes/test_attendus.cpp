@@ -7,6 +7,8 @@
 #include "diplomes/tables/Tables.h"
 #include "plateforme/Tolere.h"
 
+using namespace diplomes;
+
 // One golden file an award: the sheet of a log, then for each of its buttons the list, the saved file and the page.
 
 namespace {

@@ -5,6 +5,8 @@
 
 #include <map>
 
+using namespace diplomes;
+
 namespace {
 
 struct Poste_Challenge : Poste_Essai {

@@ -10,6 +10,8 @@
 #include <map>
 #include <random>
 
+using namespace diplomes;
+
 namespace {
 
 /// A work of Liste_Ouvrages.csv with its nineteen separators.

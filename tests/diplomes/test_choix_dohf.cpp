@@ -6,6 +6,8 @@
 
 #include <map>
 
+using namespace diplomes;
+
 namespace {
 
 void Affiche(Poste_Essai &essai, int indice)

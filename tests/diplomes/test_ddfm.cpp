@@ -3,6 +3,8 @@
 #include "diplomes/Affiche_Option.h"
 #include "diplomes/regles/Regle_DDFM.h"
 
+using namespace diplomes;
+
 namespace {
 
 const QString log_ddfm = u"F9ZZY_DDFM.log"_s;

@@ -9,6 +9,8 @@
 #include <map>
 #include <set>
 
+using namespace diplomes;
+
 namespace {
 
 const QString log_dpf = u"F9ZZY_DPF.log"_s;

@@ -12,6 +12,8 @@
 #include <algorithm>
 #include <random>
 
+using namespace diplomes;
+
 namespace {
 
 QString Activite(const QString &ref, const QString &qsl)

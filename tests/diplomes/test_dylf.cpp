@@ -14,6 +14,8 @@
 #include <map>
 #include <random>
 
+using namespace diplomes;
+
 namespace {
 
 QString Sur(const QString &bande, const QString &mode)

@@ -7,6 +7,7 @@
 #include <map>
 
 using namespace Qt::StringLiterals;
+using namespace diplomes;
 
 TEST(Ecran_Du_Diplome, chaque_code_a_sa_fiche_ou_son_choix)
 {

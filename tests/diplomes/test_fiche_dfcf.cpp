@@ -5,6 +5,8 @@
 
 #include <gtest/gtest.h>
 
+using namespace diplomes;
+
 namespace {
 
 const QString confirme = QSO({.dpt = u"77"_s, .ref = u"77001"_s, .qsl = u"*"_s});

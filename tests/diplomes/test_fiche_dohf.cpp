@@ -10,6 +10,8 @@
 
 #include <map>
 
+using namespace diplomes;
+
 namespace {
 
 const QStringList categories = {u"BA"_s, u"EC"_s, u"PT"_s, u"AQ"_s, u"MA"_s, u"MI"_s};

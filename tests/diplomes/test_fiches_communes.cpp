@@ -7,6 +7,8 @@
 
 #include <gtest/gtest.h>
 
+using namespace diplomes;
+
 namespace {
 
 QString Confirme_En(const QString &mode, const QString &dpt = u"77"_s)

@@ -5,6 +5,8 @@
 
 #include <gtest/gtest.h>
 
+using namespace diplomes;
+
 namespace {
 
 Etat_Liste Liste(const QString &categorie, const Lignes_Essai &lignes, const QString &bande = u"HF"_s)

@@ -9,6 +9,8 @@
 
 #include <gtest/gtest.h>
 
+using namespace diplomes;
+
 namespace {
 
 QString Confirme_Sur(const QString &bande, const QString &dpt = u"77"_s)

@@ -10,6 +10,8 @@
 #include <random>
 #include <set>
 
+using namespace diplomes;
+
 // Counts and rows over random logs, against counts written apart: line by line, by plain comparisons of cut texts, with
 // nothing of the rules.
 

@@ -4,6 +4,8 @@
 
 #include <gtest/gtest.h>
 
+using namespace diplomes;
+
 namespace {
 
 /// A tier as its award tells it: how many lines it asks for, and of which kind.

@@ -6,6 +6,8 @@
 
 #include <gtest/gtest.h>
 
+using namespace diplomes;
+
 namespace {
 
 /// An operating position with a DFCF log of one QSO, and the tier that a button chose.

@@ -5,6 +5,8 @@
 
 #include <map>
 
+using namespace diplomes;
+
 namespace {
 
 const QString log_tdc = u"F9ZZY_TDC.log"_s;

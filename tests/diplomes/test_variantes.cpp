@@ -9,6 +9,8 @@
 
 #include <map>
 
+using namespace diplomes;
+
 namespace {
 
 Etat_Fiche Fiche_De(const Variante &variante, const Lignes_Essai &lignes)

@@ -11,6 +11,7 @@
 #include <gtest/gtest.h>
 
 using namespace Qt::StringLiterals;
+using namespace diplomes;
 
 class Choix_DDFM_A_L_Ecran : public ::testing::Test {
 protected:

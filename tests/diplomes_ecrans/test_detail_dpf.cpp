@@ -11,6 +11,7 @@
 #include <memory>
 
 using namespace Qt::StringLiterals;
+using namespace diplomes;
 
 TEST(Detail_DPF, montre_les_22_provinces)
 {

@@ -13,6 +13,7 @@
 #include <gtest/gtest.h>
 
 using namespace Qt::StringLiterals;
+using namespace diplomes;
 using conduite::Trouve;
 
 class Challenge_A_L_Ecran : public ::testing::Test {

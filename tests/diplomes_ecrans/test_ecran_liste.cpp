@@ -14,6 +14,7 @@
 #include <gtest/gtest.h>
 
 using namespace Qt::StringLiterals;
+using namespace diplomes;
 
 class Liste_A_L_Ecran : public ::testing::Test {
 protected:

@@ -20,6 +20,7 @@
 #include <memory>
 
 using namespace Qt::StringLiterals;
+using namespace diplomes;
 
 namespace {
 

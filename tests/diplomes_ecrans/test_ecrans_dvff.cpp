@@ -12,6 +12,7 @@
 #include <gtest/gtest.h>
 
 using namespace Qt::StringLiterals;
+using namespace diplomes;
 
 class DVFF_A_L_Ecran : public ::testing::Test {
 protected:

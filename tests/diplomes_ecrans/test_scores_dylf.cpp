@@ -16,6 +16,7 @@
 #include <map>
 
 using namespace Qt::StringLiterals;
+using namespace diplomes;
 
 namespace {
 

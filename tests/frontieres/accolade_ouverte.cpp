@@ -1,4 +1,4 @@
 // A brace in a text of an award table is closed.
 #include "diplomes/modele/Gabarit.h"
 
-constexpr Gabarit_Niveau manque = u"il vous manque {manque_n Cathedrales";
+constexpr diplomes::Gabarit_Niveau manque = u"il vous manque {manque_n Cathedrales";

@@ -10,6 +10,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace diplomes {
+
 Detail_DPF::Detail_DPF(Poste &) : Ecran(u"Detail_DPF"_s, u"Liste des Provinces"_s)
 {
     std::vector<QString> textes;
@@ -24,3 +26,5 @@ Detail_DPF::Detail_DPF(Poste &) : Ecran(u"Detail_DPF"_s, u"Liste des Provinces"_
     rangs->Reserve(static_cast<int>(largeur), static_cast<int>(nombre_provinces));
     (new QVBoxLayout(this))->addWidget(rangs);
 }
+
+} // namespace diplomes

@@ -4,6 +4,8 @@
 
 struct Poste;
 
+namespace diplomes {
+
 /// The provinces with their departments, as a plain list.
 class Detail_DPF : public Ecran {
     Q_OBJECT
@@ -11,3 +13,5 @@ class Detail_DPF : public Ecran {
 public:
     explicit Detail_DPF(Poste &poste);
 };
+
+} // namespace diplomes

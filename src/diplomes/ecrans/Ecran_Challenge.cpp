@@ -14,6 +14,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace diplomes {
+
 namespace {
 
 constexpr int lignes_visibles = 20;
@@ -72,3 +74,5 @@ void Ecran_Challenge::Montre_Palier(const Palier &palier, QGridLayout *grille)
             [this, texte = palier.texte] { ADIF_Challenge(poste_, etat_, texte); });
     grille->addWidget(bouton, rang, 3);
 }
+
+} // namespace diplomes

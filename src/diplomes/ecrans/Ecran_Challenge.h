@@ -6,6 +6,8 @@
 class QGridLayout;
 struct Poste;
 
+namespace diplomes {
+
 /// The board of a canal: the works contacted and the four steps. Filled when it is made.
 class Ecran_Challenge : public Ecran {
     Q_OBJECT
@@ -21,3 +23,5 @@ private:
     Poste &poste_;
     Etat_Challenge etat_;
 };
+
+} // namespace diplomes

@@ -14,6 +14,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace diplomes {
+
 Ecran_Choix::Ecran_Choix(Poste &poste, const Choix_Diplome &choix)
     : Ecran(choix.ecran.toString(), choix.titre.toString()),
       poste_(poste),
@@ -88,3 +90,5 @@ void Ecran_Choix::Affiche(int indice)
             if (option.indice == indice)
                 Affiche_Option(poste_, option, option.selecteur ? selecteurs_.at(indice)->currentText() : QString());
 }
+
+} // namespace diplomes

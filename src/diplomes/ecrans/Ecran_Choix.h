@@ -10,6 +10,8 @@ class QComboBox;
 class QWidget;
 struct Poste;
 
+namespace diplomes {
+
 /// The choice screen of any award that is entered through one. It stays open behind the sheet.
 class Ecran_Choix : public Ecran {
     Q_OBJECT
@@ -29,3 +31,5 @@ private:
     const Choix_Diplome &choix_;
     std::map<int, QComboBox *> selecteurs_; ///< by the index of their option
 };
+
+} // namespace diplomes

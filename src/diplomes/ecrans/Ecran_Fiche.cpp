@@ -12,6 +12,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace diplomes {
+
 namespace {
 
 QLayout *Detail(const Etat_Niveau &niveau)
@@ -83,3 +85,5 @@ QWidget *Ecran_Fiche::Bouton(const Etat_Niveau &niveau)
     connect(bouton, &QPushButton::clicked, this, [this, nom] { Presse_Bouton(poste_, fiche_, nom); });
     return bouton;
 }
+
+} // namespace diplomes

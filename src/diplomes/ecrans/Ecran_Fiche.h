@@ -6,6 +6,8 @@
 class QGridLayout;
 struct Poste;
 
+namespace diplomes {
+
 /// The progress sheet of any award: worked out when it is made, and not again while it is open.
 class Ecran_Fiche : public Ecran {
     Q_OBJECT
@@ -21,3 +23,5 @@ private:
     Poste &poste_;
     const Fiche_Diplome &fiche_;
 };
+
+} // namespace diplomes

@@ -16,6 +16,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace diplomes {
+
 namespace {
 
 constexpr int lignes_visibles = 25;
@@ -93,3 +95,5 @@ void Ecran_Liste::Ajoute_Bouton(QBoxLayout *boutons, const QString &nom, const Q
     connect(bouton, &QPushButton::clicked, this, presse);
     boutons->addWidget(bouton);
 }
+
+} // namespace diplomes

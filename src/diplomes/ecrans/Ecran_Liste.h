@@ -10,6 +10,8 @@ class QBoxLayout;
 class QLabel;
 struct Poste;
 
+namespace diplomes {
+
 /// The list of any award: filled when it is made, and not again while it is open. It is saved and printed under the
 /// texts that hold when its buttons are pressed.
 class Ecran_Liste : public Ecran {
@@ -33,3 +35,5 @@ private:
     QLabel *compte_;
     Liste_Fixe *rangs_;
 };
+
+} // namespace diplomes

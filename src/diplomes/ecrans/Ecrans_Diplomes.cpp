@@ -10,6 +10,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace diplomes {
+
 std::vector<Inscription> Ecrans_Diplomes(Poste &poste)
 {
     using enum Reouverture;
@@ -28,3 +30,5 @@ std::vector<Inscription> Ecrans_Diplomes(Poste &poste)
     ecrans.push_back({u"Challenge"_s, [&poste] { return new Ecran_Challenge(poste); }, Refaite, Station});
     return ecrans;
 }
+
+} // namespace diplomes

@@ -4,6 +4,8 @@
 
 #include <QLabel>
 
+namespace diplomes {
+
 namespace {
 
 constexpr QColor rouge{255, 0, 0};
@@ -44,3 +46,5 @@ QLabel *Grand_Titre(const QString &nom, const QString &texte)
     label->setFont(police);
     return label;
 }
+
+} // namespace diplomes

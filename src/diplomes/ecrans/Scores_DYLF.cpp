@@ -10,6 +10,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace diplomes {
+
 namespace {
 
 QLabel *Nombre(const QString &nom, int valeur)
@@ -51,3 +53,5 @@ Scores_DYLF::Scores_DYLF(const Poste &poste) : Ecran(u"Scores_DYLF"_s, u"Scores 
                   Nombre(u"Tot_Pt"_s, total.points));
     (new QVBoxLayout(this))->addWidget(cadre);
 }
+
+} // namespace diplomes

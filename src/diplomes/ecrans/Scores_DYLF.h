@@ -4,6 +4,8 @@
 
 struct Poste;
 
+namespace diplomes {
+
 /// The score table of the female operators: the lines and the points of each band class and mode, and their sums. It is
 /// worked out when it is made, and not again while it is open.
 class Scores_DYLF : public Ecran {
@@ -13,3 +15,5 @@ public:
     /// Throws Erreur_Execution for an absent log.
     explicit Scores_DYLF(const Poste &poste);
 };
+
+} // namespace diplomes

@@ -2,6 +2,8 @@
 
 #include "log/Etat_Commun.h"
 
+namespace diplomes {
+
 void Applique(const Choix &choix, Etat_Commun &etat)
 {
     const auto pose = [](QString &texte, std::optional<QStringView> valeur) {
@@ -15,3 +17,5 @@ void Applique(const Choix &choix, Etat_Commun &etat)
     pose(etat.categorie_liste, choix.categorie_liste);
     pose(etat.niveau_liste, choix.niveau_liste);
 }
+
+} // namespace diplomes

@@ -6,6 +6,8 @@
 
 struct Etat_Commun;
 
+namespace diplomes {
+
 /// What an option or a button gives to the texts that the award screens share; nullopt leaves a text as it stands.
 struct Choix {
     std::optional<QStringView> bande_liste = {};
@@ -17,3 +19,5 @@ struct Choix {
 };
 
 void Applique(const Choix &choix, Etat_Commun &etat);
+
+} // namespace diplomes

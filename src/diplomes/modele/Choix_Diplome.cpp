@@ -2,6 +2,8 @@
 
 #include "log/Etat_Commun.h"
 
+namespace diplomes {
+
 void Applique(const Option_Diplome &option, const QString &bande, Etat_Commun &etat)
 {
     if (!option.garde_libelle)
@@ -12,3 +14,5 @@ void Applique(const Option_Diplome &option, const QString &bande, Etat_Commun &e
     if (option.regle)
         option.regle(etat, option.indice);
 }
+
+} // namespace diplomes

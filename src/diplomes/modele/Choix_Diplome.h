@@ -7,6 +7,8 @@
 
 #include <span>
 
+namespace diplomes {
+
 /// A list of bands beside an option: the first such list shows, and choosing an option shows its own alone.
 struct Selecteur_De_Bande {
     QStringView nom;
@@ -42,3 +44,5 @@ struct Choix_Diplome {
 
 /// Sets what the option gives, `bande` being the text of its selector, if it has one.
 void Applique(const Option_Diplome &option, const QString &bande, Etat_Commun &etat);
+
+} // namespace diplomes

@@ -3,6 +3,8 @@
 #include <array>
 #include <utility>
 
+namespace diplomes {
+
 namespace {
 
 constexpr std::array<std::pair<QStringView, Classe_Bande>, 5> classes = {{
@@ -22,3 +24,5 @@ std::optional<Classe_Bande> Classe_Nommee(QStringView texte)
             return classe;
     return std::nullopt;
 }
+
+} // namespace diplomes

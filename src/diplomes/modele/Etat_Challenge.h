@@ -5,6 +5,8 @@
 #include <array>
 #include <vector>
 
+namespace diplomes {
+
 /// A step of a canal board: its label, what is missing to it, and the button of its ADIF file.
 struct Palier {
     QStringView etiquette;
@@ -25,3 +27,5 @@ struct Etat_Challenge {
 /// The header above the rows.
 inline constexpr QStringView colonnes_challenge =
     u"   Nb    Ref           Nom de l'ouvrage               Date   Indicatif     QSL";
+
+} // namespace diplomes

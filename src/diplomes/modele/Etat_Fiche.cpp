@@ -1,5 +1,7 @@
 #include "diplomes/modele/Etat_Fiche.h"
 
+namespace diplomes {
+
 Etiquette *Cherche_Etiquette(Etat_Fiche &etat, QStringView nom)
 {
     for (Etat_Niveau &niveau : etat.niveaux) {
@@ -11,3 +13,5 @@ Etiquette *Cherche_Etiquette(Etat_Fiche &etat, QStringView nom)
     }
     return nullptr;
 }
+
+} // namespace diplomes

@@ -5,6 +5,8 @@
 #include <optional>
 #include <vector>
 
+namespace diplomes {
+
 enum class Teinte {
     Ordinaire,
     Attente, ///< red
@@ -42,3 +44,5 @@ struct Etat_Fiche {
 
 /// The label of that name among the statuses and the details; nullptr if there is none.
 Etiquette *Cherche_Etiquette(Etat_Fiche &etat, QStringView nom);
+
+} // namespace diplomes

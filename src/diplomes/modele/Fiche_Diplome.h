@@ -14,6 +14,8 @@
 
 struct Etat_Commun;
 
+namespace diplomes {
+
 /// What a sheet counts: lines of the log and the departments they come from.
 struct Comptes {
     int n = 0;
@@ -83,3 +85,5 @@ struct Fiche_Diplome {
     /// Works the sheet out, where that is not done tier by tier from the counts of its rules.
     Etat_Fiche (*evalue)(const Fiche_Diplome &fiche, const Lectures &lues, const Etat_Commun &etat) = nullptr;
 };
+
+} // namespace diplomes

@@ -8,6 +8,8 @@
 #include <span>
 #include <string_view>
 
+namespace diplomes {
+
 /// Where a text of the award tables stands, and so which values it may name in braces.
 enum class Vocabulaire {
     Ecran,  ///< a title or a heading
@@ -85,3 +87,5 @@ using Gabarit_Ecran = Gabarit<Vocabulaire::Ecran>;
 using Gabarit_Niveau = Gabarit<Vocabulaire::Niveau>;
 using Gabarit_Compte = Gabarit<Vocabulaire::Compte>;
 using Gabarit_Sortie = Gabarit<Vocabulaire::Sortie>;
+
+} // namespace diplomes

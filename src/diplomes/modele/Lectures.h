@@ -5,6 +5,8 @@
 
 struct Recherche;
 
+namespace diplomes {
+
 /// The files that a sheet or a list is worked out from.
 struct Sources {
     Diplome diplome;                   ///< whose log it is
@@ -18,3 +20,5 @@ struct Lectures {
     Lignes_Texte log;
     Lignes_Texte references = {};
 };
+
+} // namespace diplomes

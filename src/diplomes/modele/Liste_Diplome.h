@@ -14,6 +14,8 @@
 #include <span>
 #include <vector>
 
+namespace diplomes {
+
 /// A field of a log line in a row, with the blanks behind it.
 struct Colonne {
     Champ champ;
@@ -103,3 +105,5 @@ struct Liste_Diplome {
     /// Works the list out, where that is not a filter over lines.
     Etat_Liste (*evalue)(const Liste_Diplome &liste, const Lectures &lues, const Etat_Commun &etat) = nullptr;
 };
+
+} // namespace diplomes

@@ -5,6 +5,8 @@
 
 #include <array>
 
+namespace diplomes {
+
 // The layouts of the rows that several lists share.
 
 namespace rangs {
@@ -61,3 +63,5 @@ inline constexpr Forme_Rang rang_commun_ref_10 = {1, rangs::commun_ref_10};
 inline constexpr Forme_Rang rang_excellence = {0, rangs::excellence};
 /// The same behind a blank, with the reference of 8 columns.
 inline constexpr Forme_Rang rang_excellence_dmf = {1, rangs::excellence_ref_8};
+
+} // namespace diplomes

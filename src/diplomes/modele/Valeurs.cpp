@@ -7,6 +7,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace diplomes {
+
 Valeurs::Valeurs(const Etat_Commun &etat)
     : valeurs_{{u"Indicatif", etat.station.indicatif},
                {u"Bande_Liste", etat.bande_liste},
@@ -66,3 +68,5 @@ QString Date_Courte(QDate jour)
 {
     return QLocale::system().toString(jour, QLocale::ShortFormat);
 }
+
+} // namespace diplomes

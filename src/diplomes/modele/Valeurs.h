@@ -9,6 +9,8 @@
 
 struct Etat_Commun;
 
+namespace diplomes {
+
 /// The values that the texts of the award tables name in braces.
 class Valeurs {
 public:
@@ -35,3 +37,5 @@ QString Compose(QStringView gabarit, const Valeurs &valeurs);
 
 /// A day in the short form of the system's locale.
 QString Date_Courte(QDate jour);
+
+} // namespace diplomes

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+namespace diplomes {
+
 bool Est_Bande_HF(QStringView bande)
 {
     return std::find(liste_hf.begin(), liste_hf.end(), bande) != liste_hf.end();
@@ -18,3 +20,5 @@ Classe_Bande Classe_HF_VHF_UHF(QStringView bande, Classe_Bande avant)
 {
     return bande == u"432 Mhz" ? Classe_Bande::UHF : Classe_HF_VHF(bande, avant);
 }
+
+} // namespace diplomes

@@ -6,6 +6,8 @@
 
 #include <array>
 
+namespace diplomes {
+
 /// The bands that the awards of castles, mills, wash-houses and fountains call HF.
 /// "18 Mh" stands so in the awards' list, and "10 Mhz" is not in it: no QSO on 18 or 10 MHz counts.
 inline constexpr std::array<QStringView, 9> liste_hf = {
@@ -22,3 +24,5 @@ bool Est_Bande_HF(QStringView bande);
 Classe_Bande Classe_HF_VHF(QStringView bande, Classe_Bande avant);
 /// HF, VHF or UHF, else `avant`.
 Classe_Bande Classe_HF_VHF_UHF(QStringView bande, Classe_Bande avant);
+
+} // namespace diplomes

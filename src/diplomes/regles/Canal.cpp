@@ -8,6 +8,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace diplomes {
+
 namespace {
 
 namespace col = colonnes_log;
@@ -74,3 +76,5 @@ Etat_Challenge Evalue_Challenge(const Lectures &lues, const Etat_Commun &etat)
     const auto paliers = Paliers(static_cast<int>(rangs.size()), etat.nb_ouvrages_canal);
     return {u"Challenge oeuvres du " + etat.canal_challenge, std::move(rangs), paliers};
 }
+
+} // namespace diplomes

@@ -2,6 +2,8 @@
 
 #include "diplomes/regles/Departements.h"
 
+namespace diplomes {
+
 namespace {
 
 struct Decompte {
@@ -31,3 +33,5 @@ std::vector<Comptes> Compte(std::span<const Regle_Compte> regles, const Lignes_T
         comptes.push_back({.n = decompte.n, .d = decompte.departements.Nombre()});
     return comptes;
 }
+
+} // namespace diplomes

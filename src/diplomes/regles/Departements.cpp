@@ -6,6 +6,8 @@
 
 #include <algorithm>
 
+namespace diplomes {
+
 QStringView Departement_De_Fiche(QStringView ligne_log)
 {
     // Two columns more than the field has: the sheets read the separator with it.
@@ -22,3 +24,5 @@ int Departements::Nombre() const
 {
     return static_cast<int>(std::count(vus_.begin() + 1, vus_.end(), true));
 }
+
+} // namespace diplomes

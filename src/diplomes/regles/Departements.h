@@ -5,6 +5,8 @@
 #include <array>
 #include <cstddef>
 
+namespace diplomes {
+
 /// Indices of a table by department number: 0 to 95, and Corsica behind them.
 inline constexpr std::size_t taille_departements = 98;
 
@@ -26,3 +28,5 @@ public:
 private:
     std::array<bool, taille_departements> vus_ = {};
 };
+
+} // namespace diplomes

@@ -5,6 +5,8 @@
 #include <array>
 #include <utility>
 
+namespace diplomes {
+
 namespace {
 
 // clang-format off
@@ -49,3 +51,5 @@ QString Heure_ADIF(QStringView heure)
     const qsizetype deux = qMin(qsizetype{2}, heure.size());
     return heure.first(deux) + heure.last(deux);
 }
+
+} // namespace diplomes

@@ -2,6 +2,8 @@
 
 #include <QString>
 
+namespace diplomes {
+
 /// An ADIF record of an award, one line without its end: elements a blank apart, then the end mark.
 class Enregistrement_ADIF {
 public:
@@ -19,3 +21,5 @@ QStringView Bande_En_Metres(QStringView bande);
 QString Date_ADIF(QStringView date);
 /// The first two and the last two characters of HH:MM.
 QString Heure_ADIF(QStringView heure);
+
+} // namespace diplomes

@@ -4,6 +4,8 @@
 #include "diplomes/regles/Fiche_Des_Comptes.h"
 #include "diplomes/regles/Remplit_Liste.h"
 
+namespace diplomes {
+
 Etat_Fiche Evalue_Fiche(const Fiche_Diplome &fiche, const Lectures &lues, const Etat_Commun &etat)
 {
     if (fiche.evalue)
@@ -15,3 +17,5 @@ Etat_Liste Evalue_Liste(const Liste_Diplome &liste, const Lectures &lues, const 
 {
     return liste.evalue ? liste.evalue(liste, lues, etat) : Remplit_Liste(liste, lues.log, etat);
 }
+
+} // namespace diplomes

@@ -6,6 +6,8 @@
 
 #include <algorithm>
 
+namespace diplomes {
+
 namespace {
 
 /// The part done of the condition that is furthest from being met. It is whole only where the tier is reached.
@@ -96,3 +98,5 @@ Etat_Fiche Fiche_Des_Comptes(const Fiche_Diplome &fiche, std::span<const Comptes
         fiche.retouche(resultat);
     return resultat;
 }
+
+} // namespace diplomes

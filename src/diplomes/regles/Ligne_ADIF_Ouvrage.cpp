@@ -3,6 +3,8 @@
 #include "diplomes/regles/Enregistrement_ADIF.h"
 #include "log/Ligne_Log.h"
 
+namespace diplomes {
+
 namespace col = colonnes_log;
 
 QString Ligne_ADIF_Ouvrage(QStringView ligne_log)
@@ -26,3 +28,5 @@ QString Ligne_ADIF_Ouvrage(QStringView ligne_log)
     enregistrement.Pose(u"sig_info", QString(QString::number(ref.size()) + u' ' + champ(col::Nom)));
     return enregistrement.Termine();
 }
+
+} // namespace diplomes

@@ -4,6 +4,8 @@
 #include "log/Etat_Commun.h"
 #include "log/Ligne_Log.h"
 
+namespace diplomes {
+
 namespace col = colonnes_log;
 
 namespace {
@@ -71,3 +73,5 @@ bool Confirme_Categorie(QStringView ligne_log, const Etat_Commun &etat)
     constexpr Champ lettres{col::Ref.colonne + 2, 2};
     return Est_Confirme(ligne_log) && (etat.code_categorie == u"MI" || Lit(ligne_log, lettres) == etat.code_categorie);
 }
+
+} // namespace diplomes

@@ -4,6 +4,8 @@
 
 struct Etat_Commun;
 
+namespace diplomes {
+
 // Which lines of a log count for an award, and stand in its list. A line too short for its QSL column is not confirmed.
 
 bool Toute_Ligne(QStringView ligne_log, const Etat_Commun &etat);
@@ -25,3 +27,5 @@ bool Confirme_Mode_Liste(QStringView ligne_log, const Etat_Commun &etat);
 
 /// Confirmed, and the letters at the places 3 and 4 of the reference are Code_Categorie; "MI" takes any letters.
 bool Confirme_Categorie(QStringView ligne_log, const Etat_Commun &etat);
+
+} // namespace diplomes

@@ -13,6 +13,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace diplomes {
+
 namespace {
 
 namespace col = colonnes_log;
@@ -144,3 +146,5 @@ int Provinces_Sur_Cinq_Bandes(const std::vector<QString> &rangs)
     }
     return provinces;
 }
+
+} // namespace diplomes

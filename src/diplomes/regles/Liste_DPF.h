@@ -8,6 +8,8 @@
 
 struct Etat_Commun;
 
+namespace diplomes {
+
 // The three passes of the list of provinces. Each gives its rows sorted by their text without regard to case.
 
 /// One row a confirmed line of the variant: department, call sign, date, time, band, mode.
@@ -23,3 +25,5 @@ std::vector<QString> Par_Province_Et_Bande(const std::vector<QString> &rangs);
 /// The provinces with enough bands, as the five-band list counts them over its rows: the first row counts once more,
 /// and the last province is never looked at.
 int Provinces_Sur_Cinq_Bandes(const std::vector<QString> &rangs);
+
+} // namespace diplomes

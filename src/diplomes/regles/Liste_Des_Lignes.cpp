@@ -3,6 +3,8 @@
 #include "diplomes/regles/Remplit_Liste.h"
 #include "log/Ordre.h"
 
+namespace diplomes {
+
 Etat_Liste Liste_Des_Lignes(const Liste_Diplome &liste, std::span<const QStringView> lignes, const Etat_Commun &etat)
 {
     Etat_Liste resultat = Textes_De_Liste(liste, etat);
@@ -12,3 +14,5 @@ Etat_Liste Liste_Des_Lignes(const Liste_Diplome &liste, std::span<const QStringV
     resultat.compte = Compte_De_Liste(liste, lignes.size(), etat);
     return resultat;
 }
+
+} // namespace diplomes

@@ -6,6 +6,8 @@
 #include <algorithm>
 #include <array>
 
+namespace diplomes {
+
 namespace {
 
 constexpr Champ debut_de_ref{colonnes_log::Ref.colonne, 5};
@@ -70,3 +72,5 @@ void Copie_Categorie(Etat_Commun &etat)
 {
     etat.categorie_liste = etat.code_categorie;
 }
+
+} // namespace diplomes

@@ -4,6 +4,8 @@
 
 struct Etat_Commun;
 
+namespace diplomes {
+
 // The hydraulic works of one log, by the letters of their references: "45EC102" is a lock of the Loiret. The sheet and
 // the list go by different rules.
 
@@ -19,3 +21,5 @@ bool Departement_Est_Categorie(QStringView ligne_log, const Etat_Commun &etat);
 
 /// What a button of the sheet does besides its level: Categorie_Liste takes Code_Categorie.
 void Copie_Categorie(Etat_Commun &etat);
+
+} // namespace diplomes

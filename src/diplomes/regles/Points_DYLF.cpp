@@ -4,6 +4,8 @@
 
 #include <algorithm>
 
+namespace diplomes {
+
 namespace {
 
 namespace col = colonnes_log;
@@ -95,3 +97,5 @@ Score Total(const std::array<Score, nombre_scores> &scores)
     }
     return total;
 }
+
+} // namespace diplomes

@@ -6,6 +6,8 @@
 
 #include <array>
 
+namespace diplomes {
+
 // The award of the female operators is scored in points, a line by its band class and its mode. The sheet and the score
 // table differ on 50 MHz in SSB and on 432 MHz in FM. QSL cards and repeats play no part.
 
@@ -27,3 +29,5 @@ extern const std::array<QStringView, nombre_scores> libelles_des_scores;
 std::array<Score, nombre_scores> Compte_Scores(const Lignes_Texte &lignes);
 /// All rows together.
 Score Total(const std::array<Score, nombre_scores> &scores);
+
+} // namespace diplomes

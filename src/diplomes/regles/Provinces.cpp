@@ -4,6 +4,8 @@
 
 #include <QStringTokenizer>
 
+namespace diplomes {
+
 namespace {
 
 struct Province {
@@ -125,3 +127,5 @@ void Province_De_Departement(QStringView dpt, QString &province)
             return;
         }
 }
+
+} // namespace diplomes

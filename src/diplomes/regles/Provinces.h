@@ -7,6 +7,8 @@
 #include <cstddef>
 #include <optional>
 
+namespace diplomes {
+
 inline constexpr std::size_t nombre_provinces = 22;
 
 /// The rows of Detail_DPF. They are not what the award is worked out from: department 49 stands here alone.
@@ -19,3 +21,5 @@ std::optional<std::size_t> Numero_Province(QStringView dpt);
 /// Puts the name of the province of a department in `province`, 20 columns without accents. A department in none
 /// leaves what stood there.
 void Province_De_Departement(QStringView dpt, QString &province);
+
+} // namespace diplomes

@@ -5,6 +5,8 @@
 #include "log/Departement.h"
 #include "log/Ordre.h"
 
+namespace diplomes {
+
 namespace {
 
 namespace col = colonnes_log;
@@ -56,3 +58,5 @@ Rangs_Challenge Liste_Challenge(const Lignes_Texte &lignes)
     Trie_Sans_Casse(liste.rangs);
     return liste;
 }
+
+} // namespace diplomes

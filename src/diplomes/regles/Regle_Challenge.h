@@ -8,6 +8,8 @@
 #include <optional>
 #include <vector>
 
+namespace diplomes {
+
 /// What a yearly challenge gives for the last letter of a reference.
 struct Lettre_Challenge {
     QChar lettre;
@@ -32,3 +34,5 @@ struct Rangs_Challenge {
 };
 
 Rangs_Challenge Liste_Challenge(const Lignes_Texte &lignes);
+
+} // namespace diplomes

@@ -3,6 +3,8 @@
 #include "diplomes/regles/Lignes_Retenues.h"
 #include "log/Etat_Commun.h"
 
+namespace diplomes {
+
 bool Confirme_Mode_Choisi(QStringView ligne_log, const Etat_Commun &etat)
 {
     if (etat.code_categorie == u"Mixte")
@@ -20,3 +22,5 @@ Verdict Juge_DAF(const Niveau_Diplome &niveau, Comptes comptes)
     const int compare = niveau.seuil_n == 250 ? comptes.d : comptes.n;
     return compare < niveau.seuil_n || comptes.d < 3 ? Verdict::Manque : Verdict::Inchange;
 }
+
+} // namespace diplomes

@@ -6,6 +6,8 @@
 #include <algorithm>
 #include <map>
 
+namespace diplomes {
+
 namespace {
 
 namespace col = colonnes_log;
@@ -96,3 +98,5 @@ std::vector<QStringView> Lignes_DDFM(const Lignes_Texte &lignes, QStringView ban
             retenues.push_back(ligne);
     return retenues;
 }
+
+} // namespace diplomes

@@ -5,6 +5,8 @@
 
 #include <vector>
 
+namespace diplomes {
+
 /// The Bande_Liste of the award over five bands.
 inline constexpr QStringView cinq_bandes_ddfm = u"5_bandes";
 
@@ -14,3 +16,5 @@ std::array<Comptes, 2> Compte_DDFM(const Lignes_Texte &lignes, QStringView bande
 
 /// The lines that stand in the list of a band, or of the five-band award, in a mode.
 std::vector<QStringView> Lignes_DDFM(const Lignes_Texte &lignes, QStringView bande, QStringView mode);
+
+} // namespace diplomes

@@ -7,6 +7,8 @@
 
 #include <vector>
 
+namespace diplomes {
+
 namespace {
 
 constexpr std::array<int, 5> seuils_vhf = {10, 30, 50, 100, 200};
@@ -35,3 +37,5 @@ Etat_Fiche Evalue_DFF(const Fiche_Diplome &fiche, const Lectures &lues, const Et
     variante.niveaux = niveaux;
     return Fiche_Des_Comptes(variante, comptes, etat);
 }
+
+} // namespace diplomes

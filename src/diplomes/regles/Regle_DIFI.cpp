@@ -1,5 +1,7 @@
 #include "diplomes/regles/Regle_DIFI.h"
 
+namespace diplomes {
+
 void Vide_Nombre_Mixte(Etat_Fiche &etat)
 {
     // The 0 of the sheet goes to the label of the departments, which then takes its own number.
@@ -7,3 +9,5 @@ void Vide_Nombre_Mixte(Etat_Fiche &etat)
     if (nombre->texte == u"0")
         nombre->texte.clear();
 }
+
+} // namespace diplomes

@@ -10,6 +10,8 @@
 
 #include <algorithm>
 
+namespace diplomes {
+
 namespace {
 
 namespace col = colonnes_log;
@@ -59,3 +61,5 @@ std::array<Comptes, 2> Compte_DPF(const Lignes_Texte &lignes, const Etat_Commun 
 {
     return {Compte_Mode(lignes, etat, u"CW"), Compte_Mode(lignes, etat, u"SSB")};
 }
+
+} // namespace diplomes

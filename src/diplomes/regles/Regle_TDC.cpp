@@ -4,6 +4,8 @@
 #include "listes/Table_Recherches.h"
 #include "log/Ligne_Log.h"
 
+namespace diplomes {
+
 namespace {
 
 bool Est_Sur_La_Ligne(QStringView ligne_log, QStringView ligne_de_tours, Index_Liste &tours)
@@ -29,3 +31,5 @@ Verdict Juge_TDC(const Niveau_Diplome &niveau, Comptes comptes)
 {
     return comptes.n == niveau.seuil_n ? Verdict::Atteint : Verdict::Manque;
 }
+
+} // namespace diplomes

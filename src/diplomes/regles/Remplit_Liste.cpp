@@ -8,6 +8,8 @@
 
 #include <functional>
 
+namespace diplomes {
+
 namespace col = colonnes_log;
 
 namespace {
@@ -142,3 +144,5 @@ Etat_Liste Remplit_Liste(const Liste_Diplome &liste, const Lignes_Texte &lignes,
     resultat.compte = Compte_De_Liste(liste, compte, etat);
     return resultat;
 }
+
+} // namespace diplomes

@@ -3,6 +3,8 @@
 #include "diplomes/modele/Liste_Diplome.h"
 #include "plateforme/Lignes_Texte.h"
 
+namespace diplomes {
+
 /// The rows of the tier that the shared texts name, sorted by their text without regard to case, with the texts around
 /// them. Throws Erreur_Execution for a department that the list cannot take.
 Etat_Liste Remplit_Liste(const Liste_Diplome &liste, const Lignes_Texte &lignes, const Etat_Commun &etat);
@@ -19,3 +21,5 @@ Etat_Liste Textes_De_Liste(const Liste_Diplome &liste, const Etat_Commun &etat);
 
 /// The count text, with the number in it.
 QString Compte_De_Liste(const Liste_Diplome &liste, std::size_t nombre, const Etat_Commun &etat);
+
+} // namespace diplomes

@@ -2,6 +2,8 @@
 
 #include <array>
 
+namespace diplomes {
+
 namespace {
 
 // clang-format off
@@ -22,3 +24,5 @@ constexpr Choix_Diplome choix_daf = {
     .entete = u"Sélection d'un diplome DAF",
     .groupes = groupes,
 };
+
+} // namespace diplomes

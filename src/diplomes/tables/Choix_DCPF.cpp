@@ -2,6 +2,8 @@
 
 #include <array>
 
+namespace diplomes {
+
 namespace {
 
 // clang-format off
@@ -23,3 +25,5 @@ constexpr Choix_Diplome choix_dcpf = {
     .entete = u"Sélection d'un diplome DCPF",
     .groupes = groupes,
 };
+
+} // namespace diplomes

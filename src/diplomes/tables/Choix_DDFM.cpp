@@ -5,6 +5,8 @@
 
 #include <array>
 
+namespace diplomes {
+
 namespace {
 
 constexpr Selecteur_De_Bande bande_hf = {u"Bande_HF", std::span(bandes).first(9)};
@@ -28,3 +30,5 @@ constexpr Choix_Diplome choix_ddfm = {
     .entete = u"Sélection d'un diplome DDFM",
     .groupes = groupes,
 };
+
+} // namespace diplomes

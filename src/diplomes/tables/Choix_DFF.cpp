@@ -2,6 +2,8 @@
 
 #include <array>
 
+namespace diplomes {
+
 namespace {
 
 // clang-format off
@@ -21,3 +23,5 @@ constexpr Choix_Diplome choix_dff = {
     .entete = u"Sélection d'un diplome DFF",
     .groupes = groupes,
 };
+
+} // namespace diplomes

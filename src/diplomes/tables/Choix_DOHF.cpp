@@ -5,6 +5,8 @@
 #include <array>
 #include <cstdint>
 
+namespace diplomes {
+
 namespace {
 
 struct Canal {
@@ -70,3 +72,5 @@ constexpr Choix_Diplome choix_dohf = {
     .entete = u"Sélection d'un diplome DOHF",
     .groupes = groupes,
 };
+
+} // namespace diplomes

@@ -4,6 +4,8 @@
 
 #include <array>
 
+namespace diplomes {
+
 namespace {
 
 // clang-format off
@@ -24,3 +26,5 @@ constexpr Choix_Diplome choix_dpf = {
     .entete = u"Sélection d'un diplome DPF",
     .groupes = groupes,
 };
+
+} // namespace diplomes

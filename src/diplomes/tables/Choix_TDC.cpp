@@ -4,6 +4,8 @@
 
 #include <array>
 
+namespace diplomes {
+
 namespace {
 
 /// The towers of the lines, by the index of their option less 1.
@@ -56,3 +58,5 @@ constexpr Choix_Diplome choix_tdc = {
     .entete = u"Sélection d'une ligne TDC",
     .groupes = groupes,
 };
+
+} // namespace diplomes

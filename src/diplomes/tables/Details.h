@@ -2,6 +2,8 @@
 
 #include "diplomes/modele/Fiche_Diplome.h"
 
+namespace diplomes {
+
 // The labels of a tier as the tables write them. With labels of their own for the words and the numbers:
 
 constexpr Texte_Detail Prefixe(QStringView nom)
@@ -39,3 +41,5 @@ constexpr Texte_Detail Phrase(QStringView nom, const Phrase_De_Niveau &phrase)
 {
     return {.nom = nom, .manque = phrase.manque, .atteint = phrase.atteint, .inchange = phrase.inchange};
 }
+
+} // namespace diplomes

@@ -8,6 +8,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace diplomes {
+
 // One sheet and one list for both yearly challenges, by the award that is open.
 
 namespace {
@@ -137,3 +139,5 @@ constexpr Liste_Diplome liste_ch_dfcf = {
     .valeurs = Pose_Challenge,
     .evalue = Evalue_Liste_Challenge,
 };
+
+} // namespace diplomes

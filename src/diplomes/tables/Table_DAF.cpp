@@ -6,6 +6,8 @@
 
 #include <array>
 
+namespace diplomes {
+
 namespace {
 
 // clang-format off
@@ -98,3 +100,5 @@ constexpr Liste_Diplome liste_daf = {
     .fichiers = fichiers,
     .pages = pages,
 };
+
+} // namespace diplomes

@@ -6,6 +6,8 @@
 
 #include <array>
 
+namespace diplomes {
+
 namespace {
 
 // clang-format off
@@ -75,3 +77,5 @@ constexpr Liste_Diplome liste_dcf = {
     .fichiers = fichiers,
     .pages = pages,
 };
+
+} // namespace diplomes

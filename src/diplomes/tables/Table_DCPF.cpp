@@ -6,6 +6,8 @@
 
 #include <array>
 
+namespace diplomes {
+
 namespace {
 
 // clang-format off
@@ -76,3 +78,5 @@ constexpr Liste_Diplome liste_dcpf = {
     .fichiers = fichiers,
     .pages = pages,
 };
+
+} // namespace diplomes

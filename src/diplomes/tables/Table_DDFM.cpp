@@ -9,6 +9,8 @@
 
 #include <array>
 
+namespace diplomes {
+
 namespace {
 
 using Niveaux_DDFM = std::array<Niveau_Diplome, 2>;
@@ -115,3 +117,5 @@ constexpr Liste_Diplome liste_ddfm = {
     .valeurs = Pose_Bande_De_Nom,
     .evalue = Evalue_Liste_DDFM,
 };
+
+} // namespace diplomes

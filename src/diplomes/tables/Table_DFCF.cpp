@@ -7,6 +7,8 @@
 
 #include <array>
 
+namespace diplomes {
+
 namespace {
 
 // clang-format off
@@ -100,3 +102,5 @@ constexpr Liste_Diplome liste_dfcf = {
     .fichiers = fichiers,
     .pages = pages,
 };
+
+} // namespace diplomes

@@ -7,6 +7,8 @@
 
 #include <array>
 
+namespace diplomes {
+
 namespace {
 
 // clang-format off
@@ -83,3 +85,5 @@ constexpr Liste_Diplome liste_difi = {
     .fichiers = fichiers,
     .pages = pages,
 };
+
+} // namespace diplomes

@@ -6,6 +6,8 @@
 
 #include <array>
 
+namespace diplomes {
+
 namespace {
 
 // clang-format off
@@ -56,3 +58,5 @@ constexpr Liste_Diplome liste_difm = {
     .fichiers = fichiers,
     .pages = pages,
 };
+
+} // namespace diplomes

@@ -7,6 +7,8 @@
 
 #include <array>
 
+namespace diplomes {
+
 namespace {
 
 // clang-format off
@@ -69,3 +71,5 @@ constexpr Liste_Diplome liste_dlf = {
     .fichiers = fichiers,
     .pages = pages,
 };
+
+} // namespace diplomes

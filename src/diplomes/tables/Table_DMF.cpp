@@ -7,6 +7,8 @@
 
 #include <array>
 
+namespace diplomes {
+
 namespace {
 
 // clang-format off
@@ -89,3 +91,5 @@ constexpr Liste_Diplome liste_dmf = {
     .fichiers = fichiers,
     .pages = pages,
 };
+
+} // namespace diplomes

@@ -6,6 +6,8 @@
 
 #include <array>
 
+namespace diplomes {
+
 namespace {
 
 // clang-format off
@@ -99,3 +101,5 @@ constexpr Liste_Diplome liste_dohf = {
     .blancs_derriere_numero = 5,
     .adif = Departement_Est_Categorie,
 };
+
+} // namespace diplomes

@@ -9,6 +9,8 @@
 
 #include <array>
 
+namespace diplomes {
+
 namespace {
 
 using Niveaux_DPF = std::array<Niveau_Diplome, 2>;
@@ -135,3 +137,5 @@ constexpr Liste_Diplome liste_dpf = {
     .valeurs = Pose_Variante,
     .evalue = Evalue_Liste_DPF,
 };
+
+} // namespace diplomes

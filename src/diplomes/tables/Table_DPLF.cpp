@@ -6,6 +6,8 @@
 
 #include <array>
 
+namespace diplomes {
+
 namespace {
 
 // clang-format off
@@ -86,3 +88,5 @@ constexpr Liste_Diplome liste_dplf = {
     .fichiers = fichiers,
     .pages = pages,
 };
+
+} // namespace diplomes

@@ -6,6 +6,8 @@
 
 #include <array>
 
+namespace diplomes {
+
 namespace {
 
 // clang-format off
@@ -76,3 +78,5 @@ constexpr Liste_Diplome liste_dvff = {
     .blancs_derriere_numero = 5,
     .adif = Toute_Ligne,
 };
+
+} // namespace diplomes

@@ -8,6 +8,8 @@
 
 #include <array>
 
+namespace diplomes {
+
 namespace {
 
 constexpr Texte_Detail Mot(QStringView nom)
@@ -90,3 +92,5 @@ constexpr Liste_Diplome liste_dylf = {
     .fichiers = fichiers,
     .pages = pages,
 };
+
+} // namespace diplomes

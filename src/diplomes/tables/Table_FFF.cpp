@@ -6,6 +6,8 @@
 
 #include <array>
 
+namespace diplomes {
+
 namespace {
 
 // clang-format off
@@ -77,3 +79,5 @@ constexpr Liste_Diplome liste_fff = {
     .fichiers = fichiers,
     .pages = pages,
 };
+
+} // namespace diplomes

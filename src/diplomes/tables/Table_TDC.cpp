@@ -10,6 +10,8 @@
 
 #include <array>
 
+namespace diplomes {
+
 namespace {
 
 // clang-format off
@@ -82,3 +84,5 @@ constexpr Liste_Diplome liste_tdc = {
     .pages = pages,
     .evalue = Evalue_Liste_TDC,
 };
+
+} // namespace diplomes

@@ -6,6 +6,8 @@
 
 #include <array>
 
+namespace diplomes {
+
 namespace {
 
 // clang-format off
@@ -78,3 +80,5 @@ constexpr Liste_Diplome liste_wlf = {
     .fichiers = fichiers,
     .pages = pages,
 };
+
+} // namespace diplomes

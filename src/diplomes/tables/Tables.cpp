@@ -4,6 +4,8 @@
 
 #include <algorithm>
 
+namespace diplomes {
+
 namespace {
 
 // clang-format off
@@ -64,3 +66,5 @@ std::vector<const Choix_Diplome *> Choix_De_Diplomes()
 {
     return Chacune(&Tables_Du_Diplome::choix);
 }
+
+} // namespace diplomes

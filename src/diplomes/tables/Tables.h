@@ -6,6 +6,8 @@
 
 #include <vector>
 
+namespace diplomes {
+
 // The awards as data, each in its own Table_<code>.cpp.
 
 extern const Fiche_Diplome fiche_ch_dfcf;
@@ -71,3 +73,5 @@ const Tables_Du_Diplome &Tables_De(Diplome diplome);
 std::vector<const Fiche_Diplome *> Fiches();
 std::vector<const Liste_Diplome *> Listes();
 std::vector<const Choix_Diplome *> Choix_De_Diplomes();
+
+} // namespace diplomes

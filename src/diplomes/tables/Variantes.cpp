@@ -3,6 +3,8 @@
 #include "diplomes/tables/Tables.h"
 #include "log/Etat_Commun.h"
 
+namespace diplomes {
+
 namespace {
 
 void Ajoute_Option(std::vector<Variante> &variantes, Variante variante, const Option_Diplome &option)
@@ -41,3 +43,5 @@ void Applique(const Variante &variante, Etat_Commun &etat)
     if (variante.option)
         Applique(*variante.option, variante.bande.toString(), etat);
 }
+
+} // namespace diplomes

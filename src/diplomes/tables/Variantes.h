@@ -7,6 +7,8 @@
 
 struct Etat_Commun;
 
+namespace diplomes {
+
 /// A sheet of an award as it can be opened: by itself, or through an option of its choice screen.
 struct Variante {
     Diplome diplome;
@@ -21,3 +23,5 @@ std::vector<Variante> Variantes_De(Diplome diplome);
 
 /// Makes the award the one in hand and sets what the choice gives, so that Evalue_Fiche shows this sheet.
 void Applique(const Variante &variante, Etat_Commun &etat);
+
+} // namespace diplomes
