@@ -153,7 +153,7 @@ bool Accepte_Touche(Poste &poste, Vue_Saisie &vue, Controle champ)
         poste.boites.Message(Message_Premiere_Installation_Ind());
         return false;
     }
-    return A_Un_Log_Ouvert(poste, vue);
+    return Montre_Un_Log(poste, vue);
 }
 
 void Avant_Touche(const Poste &poste, Vue_Saisie &vue, Controle champ, bool retour_arriere)

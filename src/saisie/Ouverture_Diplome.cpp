@@ -76,7 +76,7 @@ bool Choisit_Annee_Challenge(Poste &poste, const Challenge &challenge)
         return true;
     poste.etat.challenge = challenge.diplome;
     poste.ecrans.Montre_Modal(u"Select_Annee"_s);
-    return annee != annee_absente || poste.dossier.S_Ouvre(poste.etat.station.Log(challenge.diplome));
+    return annee != annee_absente || poste.dossier.Existe(poste.etat.station.Log(challenge.diplome));
 }
 
 bool Habille_Challenge(Poste &poste, Vue_Saisie &vue, const Challenge &challenge, const Habillage &habillage)
@@ -121,11 +121,16 @@ void Repart_De_Zero(Poste &poste, Vue_Saisie &vue)
 
 bool A_Un_Log_Ouvert(Poste &poste, Vue_Saisie &vue)
 {
-    if (poste.dossier.S_Ouvre(poste.etat.station.Log_Courant()))
+    if (poste.dossier.Existe(poste.etat.station.Log_Courant()))
         return true;
     poste.boites.Message(u"Selectionnez un diplome"_s);
     vue.Donne_Focus(Controle::Dip_A);
     return false;
+}
+
+bool Montre_Un_Log(Poste &poste, Vue_Saisie &vue)
+{
+    return !vue.Liste_QSO().empty() || A_Un_Log_Ouvert(poste, vue);
 }
 
 bool Accepte_Touche_Dip(Poste &poste)

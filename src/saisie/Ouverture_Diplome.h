@@ -7,6 +7,10 @@ class Vue_Saisie;
 /// has no challenge log, and a change of station may leave the award without one.
 bool A_Un_Log_Ouvert(Poste &poste, Vue_Saisie &vue);
 
+/// The same for the entry of a QSO, which goes on where the log vanished while its QSOs are shown: the commit asks
+/// then.
+bool Montre_Un_Log(Poste &poste, Vue_Saisie &vue);
+
 /// A key of Dip_A before the operator has a call sign: tells so and gives false; the key is dropped.
 bool Accepte_Touche_Dip(Poste &poste);
 

@@ -6,6 +6,7 @@
 #include "log/Ligne_Affichage.h"
 #include "log/Poste.h"
 #include "plateforme/Boites.h"
+#include "plateforme/Dossier.h"
 #include "plateforme/Windows_1252.h"
 #include "saisie/Choix_Retenu.h"
 #include "saisie/Liste_Prenom.h"
@@ -79,6 +80,20 @@ bool Nomme_Un_Log(Poste &poste, Vue_Saisie &vue)
     return Tient(poste, vue, Controle::Dip_A, sans_log ? Refus(u"Selectionnez un diplome"_s) : std::nullopt);
 }
 
+/// A log that vanished since it was shown is not begun anew without a word: the operator may have another copy of it.
+bool Garde_Son_Log(Poste &poste, Vue_Saisie &vue)
+{
+    const bool ajoute = !poste.etat.qso_affiche && !poste.etat.saisie_differee;
+    const QString nom = poste.etat.station.Log_Courant();
+    if ((ajoute && vue.Dip_A() != Code(poste.etat.station.diplome)) || poste.dossier.Existe(nom))
+        return true;
+    if (ajoute)
+        return poste.boites.Question(u"Le log "_s + nom +
+                                     u" n'existe plus.\n"
+                                     u"Voulez vous enregistrer ce QSO dans un nouveau log ?");
+    return Tient(poste, vue, Controle::Dip_A, u"Selectionnez un diplome"_s);
+}
+
 void Retient_Prenom(Poste &poste, Vue_Saisie &vue)
 {
     if (!poste.etat.prenom_nouveau)
@@ -141,9 +156,11 @@ void Prepare_Le_Suivant(Poste &poste, Vue_Saisie &vue)
 
 void Valide_QSO(Poste &poste, Vue_Saisie &vue)
 {
-    if (!A_Un_Log_Ouvert(poste, vue) || !Nomme_Un_Log(poste, vue) || !Tient_Dans_Les_Colonnes(poste, vue))
+    if (!Montre_Un_Log(poste, vue) || !Nomme_Un_Log(poste, vue) || !Tient_Dans_Les_Colonnes(poste, vue))
         return;
     if (!poste.boites.Question(u"Voulez vous enregistrer ces données ?"_s))
+        return;
+    if (!Garde_Son_Log(poste, vue))
         return;
     Retient_Prenom(poste, vue);
     Range(poste, vue, Compose(vue));

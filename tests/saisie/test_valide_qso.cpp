@@ -377,6 +377,7 @@ TEST_F(Refus_A_La_Validation, sans_log_qui_s_ouvre_rien_ne_s_ecrit_et_un_diplome
         Remplit_Nouveau();
         essai.etat.saisie_differee = differee;
         QFile::remove(essai.fichiers.Chemin(u"F9ZZY_DFCF.log"_s));
+        vue.liste = {};
         Valide();
         EXPECT_EQ(essai.Messages(), std::vector<QString>{u"Selectionnez un diplome"_s});
         EXPECT_EQ(vue.focus, Dip_A);
@@ -384,6 +385,22 @@ TEST_F(Refus_A_La_Validation, sans_log_qui_s_ouvre_rien_ne_s_ecrit_et_un_diplome
         EXPECT_EQ(essai.fichiers.Fichiers(), QStringList{u"Liste_Prenom.txt"_s});
         EXPECT_EQ(vue.Texte(Ref_A), u"63087"_s);
     }
+}
+
+TEST_F(Validation_QSO, un_log_disparu_depuis_qu_il_est_montre_ne_renait_qu_apres_une_question)
+{
+    Remplit_Nouveau();
+    QFile::remove(essai.fichiers.Chemin(u"F9ZZY_DFCF.log"_s));
+    essai.boites.reponses = {true, false};
+    Valide();
+    ASSERT_EQ(essai.boites.questions.size(), 2U);
+    EXPECT_TRUE(essai.boites.questions[1].startsWith(u"Le log F9ZZY_DFCF.log n'existe plus."));
+    EXPECT_FALSE(essai.fichiers.Existe(u"F9ZZY_DFCF.log"_s));
+    EXPECT_EQ(vue.Texte(Ref_A), u"63087"_s);
+    essai.boites.reponses = {true, true};
+    Valide();
+    EXPECT_EQ(Log(), Octets({Nouveau()}));
+    EXPECT_EQ(vue.Texte(Ref_A), u""_s);
 }
 
 TEST_F(Prenom_Retenu, un_prenom_nouveau_va_a_sa_liste_en_capitales)
