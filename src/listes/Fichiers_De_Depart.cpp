@@ -1,6 +1,7 @@
 #include "listes/Fichiers_De_Depart.h"
 
 #include "plateforme/Dossier.h"
+#include "plateforme/Tolere.h"
 
 #include <array>
 
@@ -27,6 +28,14 @@ constexpr std::array<Fichier_De_Depart, 7> listes = {{
 }};
 // clang-format on
 
+/// A list has its heading at least: an empty one is what a cut left. One that cannot be read is somebody's.
+bool Manque(const Dossier &dossier, const QString &nom)
+{
+    bool vide = !dossier.Existe(nom);
+    Tolere([&] { vide = vide || dossier.Octets(nom).isEmpty(); });
+    return vide;
+}
+
 } // namespace
 
 void Depose_Fichiers_De_Depart(Dossier &dossier)
@@ -34,7 +43,7 @@ void Depose_Fichiers_De_Depart(Dossier &dossier)
     dossier.Cree_Si_Absent(u"Liste_Prenom.txt"_s);
     for (const Fichier_De_Depart &liste : listes) {
         const QString nom = liste.nom.toString();
-        if (!dossier.Existe(nom))
+        if (Manque(dossier, nom))
             dossier.Remplace(nom, liste.texte, nom + u".tmp");
     }
 }

@@ -36,7 +36,7 @@ bool Ouvre_Le_Log(Poste &poste, const QString &annee)
 {
     const Station_Courante &station = poste.etat.station;
     const QString nom = Chemin_Log(station.indicatif, Challenge(poste), annee);
-    return poste.dossier.S_Ouvre(nom) || Tolere([&] { poste.dossier.Cree_Si_Absent(nom); });
+    return Tolere([&] { poste.dossier.Cree_Si_Absent(nom); });
 }
 
 } // namespace

@@ -16,9 +16,8 @@ public:
 
     /// Repertoire_Appli, without a closing separator.
     [[nodiscard]] virtual QString Repertoire_Appli() const = 0;
-    /// True if the file can be opened for reading.
-    [[nodiscard]] virtual bool S_Ouvre(const QString &nom) const = 0;
-    /// True if anything bears that name, readable or not.
+    /// True if anything bears that name, readable or not. False means that the system said so: where it cannot say, the
+    /// question fails.
     [[nodiscard]] virtual bool Existe(const QString &nom) const = 0;
     /// The whole text of a file.
     [[nodiscard]] virtual QString Lit(const QString &nom) const = 0;
@@ -27,8 +26,9 @@ public:
     /// The bytes of a file as they are.
     [[nodiscard]] virtual QByteArray Octets(const QString &nom) const = 0;
 
-    /// Puts `texte` in the place of a file, or makes it: written whole to `temporaire`, synced, renamed over `nom`.
-    /// After a crash at any instant the file is the old one or the new one, whole.
+    /// Puts `texte` in the place of a file, or makes it: written whole to a file of its own beside it, named after
+    /// `temporaire`, synced, renamed over `nom`. After a crash at any instant the file is the old one or the new one,
+    /// whole.
     virtual void Remplace(const QString &nom, QStringView texte, const QString &temporaire) = 0;
     /// The same for bytes that are not the program's own text.
     virtual void Remplace_Octets(const QString &nom, QByteArrayView octets, const QString &temporaire) = 0;

@@ -35,7 +35,7 @@ bool Est_Premiere_Installation(const Poste &poste)
 
 void Reprend_Station(Poste &poste, Vue_Saisie &vue)
 {
-    poste.etat.station.indicatif = Lit_General(poste, cles::indicatif_station, indicatif_absent);
+    poste.etat.station.indicatif = Station_Retenue(poste);
     // As stored: only a change of station turns "_" back to "/".
     vue.Ecrit(Controle::I_Station, poste.etat.station.indicatif);
     Reprend_Bande_Et_Mode(poste, vue);
@@ -116,6 +116,11 @@ void Installe_Textes(Poste &poste, Vue_Saisie &vue)
 }
 
 } // namespace
+
+QString Station_Retenue(const Poste &poste)
+{
+    return Lit_General(poste, cles::indicatif_station, indicatif_absent);
+}
 
 void Demarre(Poste &poste, Vue_Saisie &vue)
 {

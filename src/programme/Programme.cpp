@@ -13,6 +13,11 @@ Programme::Programme(const QString &repertoire, const Horloge &horloge)
     ecran_.Installe_Menus(registre_);
 }
 
+bool Programme::Est_Neuf()
+{
+    return Station_Retenue(ecran_.Le_Poste()) == indicatif_absent;
+}
+
 void Programme::Installe()
 {
     Depose_Fichiers_De_Depart(dossier_);

@@ -17,6 +17,8 @@ class Programme {
 public:
     Programme(const QString &repertoire, const Horloge &horloge);
 
+    /// No station was ever set: an installation that was cut off is still to be ended.
+    [[nodiscard]] bool Est_Neuf();
     /// Lays the starter files, as an installer would.
     void Installe();
     /// Runs the start-up; the main screen is then open.

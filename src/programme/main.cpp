@@ -1,12 +1,11 @@
 #include "plateforme/Erreur_Execution.h"
 #include "plateforme/qt/Boites_Qt.h"
+#include "plateforme/qt/Fichier_Sur.h"
 #include "plateforme/qt/Horloge_Systeme.h"
 #include "programme/Application.h"
 #include "programme/Ligne_Commande.h"
 #include "programme/Programme.h"
 #include "programme/Repertoire.h"
-
-#include <QDir>
 
 #include <cstdio>
 
@@ -18,16 +17,15 @@ namespace {
 int Tourne(const Ligne_Commande &ligne)
 {
     const QString repertoire = ligne.repertoire.isEmpty() ? Repertoire_Appli() : ligne.repertoire;
-    const bool premiere_fois = !QDir(repertoire).exists();
-    const std::unique_ptr<QLockFile> verrou = Prend_Repertoire(repertoire);
-    if (!verrou) {
-        Boites_Qt().Message(
-            u"Vorlain est déjà ouvert sur le répertoire %1"_s.arg(QDir::toNativeSeparators(repertoire)));
+    const bool absent = !Existe_Fichier(repertoire);
+    const Verrou verrou = Prend_Repertoire(repertoire);
+    if (const QString message = Message_Verrou(verrou, repertoire); !message.isEmpty())
+        Boites_Qt().Message(message);
+    if (verrou.L_Etat() == Verrou::Etat::Occupe)
         return 1;
-    }
     const Horloge_Systeme horloge;
     Programme programme(repertoire, horloge);
-    if (premiere_fois)
+    if (absent || programme.Est_Neuf())
         programme.Installe();
     programme.Ouvre();
     return QApplication::exec();

@@ -18,6 +18,9 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+/// A station exists if its log of this award does. It is made last: a station that was cut off is new again.
+constexpr Diplome diplome_de_la_station = Diplome::DFCF;
+
 bool Est_Permis(QChar caractere)
 {
     return (caractere >= u'0' && caractere <= u'9') || (caractere >= u'A' && caractere <= u'Z') || caractere == u'_';
@@ -50,15 +53,21 @@ bool Est_Refus_De_Caractere(QStringView indicatif)
 
 void Cree_Logs(Poste &poste, QStringView indicatif)
 {
+    const auto cree = [&](Diplome diplome) {
+        Tolere([&] { poste.dossier.Cree_Si_Absent(Chemin_Log(indicatif, diplome)); });
+    };
     for (const Diplome diplome : tous_les_diplomes)
-        Tolere([&] { poste.dossier.Remplace(Chemin_Log(indicatif, diplome), u"", u"Temporaire.txt"_s); });
+        if (diplome != diplome_de_la_station)
+            cree(diplome);
+    cree(diplome_de_la_station);
 }
 
 void Change_Station(Poste &poste, Vue_Saisie &vue, const QString &indicatif)
 {
+    // A disk that does not answer is not a new station: the question fails before anything is changed.
+    const bool connue = poste.dossier.Existe(Chemin_Log(indicatif, diplome_de_la_station));
     poste.etat.station.indicatif = indicatif;
-    // A DFCF log that is there and does not open is no reason to empty the others.
-    if (!poste.dossier.Existe(Chemin_Log(indicatif, Diplome::DFCF)))
+    if (!connue)
         Installe_Nouvelle_Station(poste);
     Tolere([&] { Ecrit_General(poste, cles::indicatif_station, indicatif); });
     vue.Ecrit(Controle::I_Station, QString(indicatif).replace(u'_', u'/'));

@@ -67,14 +67,22 @@ TEST_F(Depart, les_en_tetes_ont_les_separateurs_des_lecteurs_les_plus_exigeants)
 TEST(Fichiers_De_Depart, un_fichier_present_reste_ce_qu_il_est)
 {
     Poste_Essai essai;
-    essai.fichiers.Pose(u"Liste_PC.csv"_s, "");
+    essai.fichiers.Pose(u"Liste_PC.csv"_s, "\r\n");
     essai.fichiers.Pose(u"Liste_TDC.csv"_s, "Rev 012 01/01/20;\xE9;");
     essai.fichiers.Pose(u"Liste_Prenom.txt"_s, "F5ABC        77 JEAN\r\n");
     QFile::setPermissions(essai.fichiers.Chemin(u"Liste_TDC.csv"_s), {});
     Depose_Fichiers_De_Depart(essai.dossier);
     QFile::setPermissions(essai.fichiers.Chemin(u"Liste_TDC.csv"_s), QFile::ReadOwner);
-    EXPECT_EQ(essai.fichiers.Octets(u"Liste_PC.csv"_s), "");
+    EXPECT_EQ(essai.fichiers.Octets(u"Liste_PC.csv"_s), "\r\n");
     EXPECT_EQ(essai.fichiers.Octets(u"Liste_TDC.csv"_s), "Rev 012 01/01/20;\xE9;");
     EXPECT_EQ(essai.fichiers.Octets(u"Liste_Prenom.txt"_s), "F5ABC        77 JEAN\r\n");
     EXPECT_TRUE(essai.fichiers.Existe(u"Liste_DCF.csv"_s));
+}
+
+TEST(Fichiers_De_Depart, une_liste_vide_laissee_par_une_coupure_est_completee)
+{
+    Poste_Essai essai;
+    essai.fichiers.Pose(u"Liste_DPLF.txt"_s, "");
+    Depose_Fichiers_De_Depart(essai.dossier);
+    EXPECT_EQ(essai.fichiers.Octets(u"Liste_DPLF.txt"_s), "*\r\n");
 }

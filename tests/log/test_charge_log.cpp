@@ -1,3 +1,4 @@
+#include "faux/Disque_Qui_Refuse.h"
 #include "faux/Echec.h"
 #include "faux/Impression.h"
 #include "faux/Poste_Essai.h"
@@ -175,8 +176,10 @@ TEST_F(Chargement, un_log_absent_vide_la_liste_et_se_dit)
 TEST_F(Chargement, une_reecriture_refusee_garde_le_log_et_le_montre)
 {
     Pose(u"FFF"_s, {QSO({.ref = u"51"_s})});
-    ASSERT_TRUE(QDir(essai.fichiers.Chemin()).mkdir(u"Temporaire.txt"_s));
-    EXPECT_TRUE(Echec([&] { Charge_Log(essai.poste, Diplome::FFF); }));
+    {
+        const Disque_Qui_Refuse disque;
+        EXPECT_TRUE(Echec([&] { Charge_Log(essai.poste, Diplome::FFF); }));
+    }
     EXPECT_EQ(Refs(), QStringList{u"0051"_s});
     EXPECT_EQ(Octets(u"FFF"_s), Texte_Log({QSO({.ref = u"51"_s})}).toLatin1());
     EXPECT_TRUE(essai.boites.messages.empty());

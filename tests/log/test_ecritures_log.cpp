@@ -181,18 +181,6 @@ TEST_F(Ecritures, un_temporaire_d_une_panne_ne_gene_pas)
     EXPECT_EQ(essai.fichiers.Fichiers(), QStringList{journal});
 }
 
-TEST_F(Ecritures, chaque_reecriture_a_son_temporaire)
-{
-    // A folder in a temporary's place lets its operation fail, and no other.
-    ASSERT_TRUE(QDir(essai.fichiers.Chemin()).mkdir(u"Temporaire.txt"_s));
-    EXPECT_TRUE(Echec([&] { Remplace_Ligne(essai.poste, nouvelle, Ligne(0)); }));
-    EXPECT_TRUE(Echec([&] { Supprime_Ligne(essai.poste, Ligne(0), Diplome::DFCF); }));
-    EXPECT_EQ(essai.fichiers.Octets(journal), Donnee(u"journal.log"_s));
-    EXPECT_FALSE(Echec([&] { Insere_Ligne(essai.poste, nouvelle); }));
-    ASSERT_TRUE(QDir(essai.fichiers.Chemin()).mkdir(u"Temporaire6.txt"_s));
-    EXPECT_TRUE(Echec([&] { Insere_Ligne(essai.poste, nouvelle); }));
-}
-
 TEST_F(Ecritures, un_log_absent_est_dit_et_reste_absent)
 {
     essai.Ouvre(u"DMF"_s);

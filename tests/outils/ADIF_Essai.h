@@ -47,13 +47,19 @@ inline QString ADIF(const Enregistrement_Essai &valeurs)
 
 /// The screen of the import, with the file that it gives.
 struct Ecran_Import_Faux : Ecran_Import {
+    std::function<void()> pendant_le_choix;
     QString chemin;
     bool ferme = false;
     std::size_t avances = 0;
     std::size_t total = 0;
     std::function<void()> a_la_fermeture = [] {};
 
-    QString Choisit_Fichier() override { return chemin; }
+    QString Choisit_Fichier() override
+    {
+        if (pendant_le_choix)
+            pendant_le_choix();
+        return chemin;
+    }
     void Avance(std::size_t faites, std::size_t toutes) override
     {
         avances = faites;

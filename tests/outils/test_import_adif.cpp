@@ -2,6 +2,8 @@
 #include "outils/Export_ADIF.h"
 #include "plateforme/Erreur_Execution.h"
 
+#include "faux/Disque_Qui_Refuse.h"
+
 #include <gtest/gtest.h>
 
 using namespace Qt::StringLiterals;
@@ -288,10 +290,12 @@ TEST_F(Import, un_departement_de_trois_caracteres_ne_laisse_rien_entre_les_colon
 TEST_F(Import, un_log_qui_ne_peut_pas_etre_ecrit_en_remplacement_reste_absent_a_cote_de_son_bak)
 {
     Choisit({ADIF({})});
-    ASSERT_TRUE(QDir(essai.fichiers.Chemin()).mkdir(u"Temporaire.txt"_s));
+    std::optional<Disque_Qui_Refuse> disque;
+    ecran.pendant_le_choix = [&] { disque.emplace(); };
     EXPECT_THROW(Lance(remplace), Erreur_Execution);
+    disque.reset();
+    ecran.pendant_le_choix = nullptr;
     EXPECT_EQ(essai.fichiers.Fichiers(), QStringList{u"F9ZZY_DFCF.bak"_s});
-    ASSERT_TRUE(QDir(essai.fichiers.Chemin()).rmdir(u"Temporaire.txt"_s));
     Lance(remplace);
     EXPECT_EQ(Log(), Textes{Nouvelle()});
 }

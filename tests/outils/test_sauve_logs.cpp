@@ -103,9 +103,7 @@ TEST_F(Sauvegarde, un_repertoire_qui_n_est_pas_un_chemin_complet_n_ecrit_pas_par
 TEST_F(Sauvegarde, une_copie_refusee_laisse_l_ancienne_et_les_suivantes_se_font)
 {
     cible.Pose(u"F9ZZY_DFCF.log"_s, "ancienne\r\n");
-    // A folder in the place of the file beside which the copy is written.
-    ASSERT_TRUE(QDir(cible.Chemin()).mkpath(u"F9ZZY_DFCF.log.tmp"_s));
-    essai.fichiers.Pose(u"F9ZZY_DFCF.log"_s, "nouvelle\r\n");
+    ASSERT_TRUE(QDir(essai.fichiers.Chemin()).mkdir(u"F9ZZY_DFCF.log"_s));
     essai.fichiers.Pose(u"F9ZZY_WLF.log"_s, "suivante\r\n");
     Sauve_Logs(essai.poste);
     EXPECT_EQ(cible.Octets(u"F9ZZY_DFCF.log"_s), "ancienne\r\n");

@@ -2,6 +2,8 @@
 #include "outils/Trie_Log.h"
 #include "plateforme/Erreur_Execution.h"
 
+#include "faux/Disque_Qui_Refuse.h"
+
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -191,7 +193,9 @@ TEST(Trie_Log, un_disque_qui_refuse_laisse_le_log_comme_il_etait)
     essai.Ouvre(u"DFCF"_s);
     const QByteArray octets = Texte_Log({QSO({.date = u"01/01/15"_s}), QSO({.date = u"01/01/14"_s})}).toLatin1();
     essai.fichiers.Pose(u"F9ZZY_DFCF.log"_s, octets);
-    ASSERT_TRUE(QDir(essai.fichiers.Chemin()).mkdir(u"Temporaire.txt"_s));
-    EXPECT_THROW(Trie_Log(essai.poste), Erreur_Execution);
+    {
+        const Disque_Qui_Refuse disque;
+        EXPECT_THROW(Trie_Log(essai.poste), Erreur_Execution);
+    }
     EXPECT_EQ(essai.fichiers.Octets(u"F9ZZY_DFCF.log"_s), octets);
 }

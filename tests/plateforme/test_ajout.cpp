@@ -97,13 +97,20 @@ TEST_F(Ajout, un_fichier_qui_n_a_pas_pu_naitre_ne_reste_pas)
     EXPECT_FALSE(fichiers.Existe(journal));
 }
 
-TEST_F(Ajout, un_disque_plein_est_dit_plein)
+TEST_F(Ajout, un_peripherique_a_la_place_du_log_est_refuse)
 {
     ASSERT_TRUE(QFile::link(u"/dev/full"_s, fichiers.Chemin(journal)));
     const auto echec = Echec([&] { dossier.Ajoute(journal, u"un"); });
     ASSERT_TRUE(echec);
-    EXPECT_EQ(echec->La_Cause(), Cause::Disque_Plein);
-    EXPECT_EQ(echec->Texte(), u"%1 (le disque est plein)"_s.arg(fichiers.Chemin(journal)));
+    EXPECT_EQ(echec->Texte(), u"%1 (ce n'est pas un fichier ordinaire)"_s.arg(fichiers.Chemin(journal)));
+}
+
+TEST_F(Ajout, un_lien_vers_un_fichier_absent_le_fait)
+{
+    ASSERT_TRUE(QFile::link(u"vrai.log"_s, fichiers.Chemin(journal)));
+    dossier.Ajoute(journal, u"un");
+    EXPECT_TRUE(QFileInfo(fichiers.Chemin(journal)).isSymLink());
+    EXPECT_EQ(fichiers.Octets(u"vrai.log"_s), "un\r\n");
 }
 
 TEST_F(Ajout, un_repertoire_est_refuse)

@@ -59,7 +59,6 @@ TEST_F(Dossier_Sur_Disque, un_repertoire_n_est_pas_un_fichier)
     ASSERT_TRUE(echec);
     EXPECT_EQ(echec->La_Cause(), Cause::Fichier_Refuse);
     EXPECT_EQ(echec->Texte(), u"%1 (c'est un répertoire)"_s.arg(fichiers.Chemin(u"a.log"_s)));
-    EXPECT_FALSE(dossier.S_Ouvre(u"a.log"_s));
 }
 
 TEST_F(Dossier_Sur_Disque, un_chemin_a_travers_un_fichier_est_dit)
@@ -69,13 +68,6 @@ TEST_F(Dossier_Sur_Disque, un_chemin_a_travers_un_fichier_est_dit)
     ASSERT_TRUE(echec);
     EXPECT_EQ(echec->Texte(),
               u"%1 (une partie du chemin n'est pas un répertoire)"_s.arg(fichiers.Chemin(u"a.log/b.log"_s)));
-}
-
-TEST_F(Dossier_Sur_Disque, s_ouvre_dit_si_un_fichier_peut_etre_lu)
-{
-    fichiers.Pose(u"a.log"_s, "");
-    EXPECT_TRUE(dossier.S_Ouvre(u"a.log"_s));
-    EXPECT_FALSE(dossier.S_Ouvre(u"b.log"_s));
 }
 
 TEST_F(Dossier_Sur_Disque, cree_un_fichier_absent_et_lui_seul)
@@ -173,6 +165,26 @@ TEST_F(Dossier_Sur_Disque, existe_dit_si_un_nom_est_pris)
     EXPECT_TRUE(dossier.Existe(u"a.log"_s));
     ASSERT_TRUE(QFile::link(u"nulle_part"_s, fichiers.Chemin(u"lien.log"_s)));
     EXPECT_TRUE(dossier.Existe(u"lien.log"_s));
+}
+
+TEST_F(Dossier_Sur_Disque, une_question_sans_reponse_n_est_pas_un_non)
+{
+    fichiers.Pose(u"a.log"_s, "un\r\n");
+    const auto echec = Echec([&] { (void)dossier.Existe(u"a.log/b.log"_s); });
+    ASSERT_TRUE(echec);
+    EXPECT_EQ(echec->Texte(),
+              u"%1 (une partie du chemin n'est pas un répertoire)"_s.arg(fichiers.Chemin(u"a.log/b.log"_s)));
+}
+
+TEST_F(Dossier_Sur_Disque, un_tube_a_la_place_d_un_log_est_refuse_aussitot)
+{
+    const QString nom = u"a.log"_s;
+    ASSERT_EQ(::mkfifo(QFile::encodeName(fichiers.Chemin(nom)).constData(), 0600), 0);
+    const QString raison = u"ce n'est pas un fichier ordinaire"_s;
+    EXPECT_EQ(Echec([&] { (void)dossier.Lit(nom); })->Texte(), u"%1 (%2)"_s.arg(fichiers.Chemin(nom), raison));
+    EXPECT_EQ(Echec([&] { dossier.Ajoute(nom, u"un"); })->Texte(), u"%1 (%2)"_s.arg(fichiers.Chemin(nom), raison));
+    EXPECT_EQ(Echec([&] { dossier.Remplace(nom, u"un", u"Temporaire.txt"_s); })->Texte(),
+              u"%1 n'a pas été modifié : %2"_s.arg(fichiers.Chemin(nom), raison));
 }
 
 TEST_F(Dossier_Sur_Disque, des_octets_etrangers_sont_pris_tels_quels)

@@ -6,7 +6,10 @@
 
 #include <gtest/gtest.h>
 
+#include <QElapsedTimer>
+
 #include <csignal>
+#include <random>
 #include <sys/resource.h>
 
 using namespace Qt::StringLiterals;
@@ -103,7 +106,9 @@ TEST_F(Reglages_Reels, un_refus_du_disque_est_dit)
     const auto echec = Echec([] { Ecrit(u"Setup "_s, u"Revision"_s, u"V1.2.5c"_s); });
     ASSERT_TRUE(echec);
     EXPECT_EQ(echec->La_Cause(), Cause::Fichier_Refuse);
-    EXPECT_EQ(echec->Texte(), u"les réglages ne peuvent pas être enregistrés dans "_s + dossier.Chemin(fichier));
+    EXPECT_EQ(echec->Texte(),
+              u"les réglages ne peuvent pas être lus : %1 (une partie du chemin n'est pas un répertoire)"_s.arg(
+                  dossier.Chemin(fichier)));
 }
 
 TEST_F(Reglages_Reels, un_disque_plein_garde_les_anciens_reglages)
@@ -118,4 +123,67 @@ TEST_F(Reglages_Reels, un_disque_plein_garde_les_anciens_reglages)
     });
     EXPECT_EQ(etat, 0);
     EXPECT_EQ(dossier.Octets(fichier), anciens);
+}
+
+TEST_F(Reglages_Reels, un_magasin_illisible_n_est_pas_une_premiere_installation)
+{
+    ASSERT_TRUE(QDir(dossier.Chemin()).mkpath(fichier));
+    const auto echec = Echec([] { (void)Relit(u"Setup "_s, u"Indicatif Station"_s); });
+    ASSERT_TRUE(echec);
+    EXPECT_EQ(echec->Texte(),
+              u"les réglages ne peuvent pas être lus : %1 (c'est un répertoire)"_s.arg(dossier.Chemin(fichier)));
+}
+
+TEST_F(Reglages_Reels, un_verrou_laisse_par_une_panne_ne_retient_personne)
+{
+    ASSERT_TRUE(QDir(dossier.Chemin()).mkdir(u"Vorlain"_s));
+    dossier.Pose(fichier + u".lock", "1\nVorlain\nautre-machine\n");
+    QElapsedTimer duree;
+    duree.start();
+    Ecrit(u"Setup "_s, u"Revision"_s, u"V1.2.5c"_s);
+    EXPECT_LT(duree.elapsed(), 2000);
+    EXPECT_EQ(Relit(u"Setup "_s, u"Revision"_s), u"V1.2.5c"_s);
+}
+
+TEST_F(Reglages_Reels, le_magasin_se_lit_comme_qsettings_l_ecrirait)
+{
+    const QString chemin = dossier.Chemin(u"temoin.conf"_s);
+    std::mt19937 hasard(20261121);
+    const QString signes = u"aZ09 ;,=\"\\%@#[]/\t\n\r\u0001\u00E9\u20AC\u00A0xf'"_s;
+    Contenu_Reglages contenu;
+    for (int cle = 0; cle < 600; ++cle) {
+        QString valeur;
+        for (std::size_t reste = hasard() % 12; reste > 0; --reste)
+            valeur += signes[static_cast<qsizetype>(hasard() % static_cast<std::size_t>(signes.size()))];
+        contenu[u"Setup F%1/cle é %2"_s.arg(cle / 10).arg(cle)] = valeur;
+    }
+    {
+        QSettings temoin(chemin, QSettings::NativeFormat);
+        for (auto place = contenu.begin(); place != contenu.end(); ++place)
+            temoin.setValue(place.key(), place.value());
+    }
+    EXPECT_EQ(Decode_Reglages(dossier.Octets(u"temoin.conf"_s)), contenu);
+    EXPECT_EQ(Decode_Reglages(Encode_Reglages(contenu)), contenu);
+}
+
+TEST_F(Reglages_Reels, un_magasin_abime_s_ecrit_encore)
+{
+    ASSERT_TRUE(QDir(dossier.Chemin()).mkdir(u"Vorlain"_s));
+    QByteArray octets;
+    for (int i = 0; i < 256; ++i)
+        octets += static_cast<char>(i);
+    dossier.Pose(fichier, "[Setup%20F9ZZY]\nbande%20Utilisee=4\n" + octets);
+    Ecrit(u"Setup "_s, u"Revision"_s, u"V1.2.5c"_s);
+    EXPECT_EQ(Relit(u"Setup "_s, u"Revision"_s), u"V1.2.5c"_s);
+    EXPECT_EQ(Relit(u"Setup F9ZZY"_s, u"bande Utilisee"_s), u"4"_s);
+}
+
+TEST_F(Reglages_Reels, un_lien_reste_un_lien_et_les_droits_restent)
+{
+    ASSERT_TRUE(QDir(dossier.Chemin()).mkdir(u"Vorlain"_s));
+    dossier.Pose(u"vrai.conf"_s, "[Setup%20]\nRevision=V1.0.0\n");
+    ASSERT_TRUE(QFile::link(u"../vrai.conf"_s, dossier.Chemin(fichier)));
+    Ecrit(u"Setup "_s, u"Revision"_s, u"V1.2.5c"_s);
+    EXPECT_TRUE(QFileInfo(dossier.Chemin(fichier)).isSymLink());
+    EXPECT_TRUE(dossier.Octets(u"vrai.conf"_s).contains("Revision=V1.2.5c"));
 }

@@ -1,5 +1,6 @@
 #include "programme/Programme_Essai.h"
 
+#include "faux/Disque_Qui_Refuse.h"
 #include "faux/QSO_Essai.h"
 
 #include <QComboBox>
@@ -151,9 +152,11 @@ TEST_F(Demarrage, un_log_migre_qui_ne_peut_pas_etre_reecrit_est_a_l_ecran)
     Installe_Station(u"FFF"_s);
     const QByteArray octets = QSO({.ref = u"51"_s}).toLatin1() + "\r\n";
     fichiers.Pose(u"F9ZZY_FFF.log"_s, octets);
-    // A folder in the temporary's place: the rewrite fails.
-    ASSERT_TRUE(QDir(fichiers.Chemin()).mkdir(u"Temporaire.txt"_s));
-    EXPECT_TRUE(Ouvre().empty());
+    programme.emplace(fichiers.Chemin(), horloge);
+    {
+        const Disque_Qui_Refuse disque;
+        EXPECT_TRUE(conduite::Repond({}, [this] { programme->Ouvre(); }).empty());
+    }
     ASSERT_EQ(QSO_Affiches().size(), 1U);
     EXPECT_TRUE(QSO_Affiches()[0].contains(u" 0051  "_s));
     EXPECT_EQ(fichiers.Octets(u"F9ZZY_FFF.log"_s), octets);

@@ -186,7 +186,7 @@ TEST_F(Ouverture, un_log_absent_finit_le_programme_sur_son_rapport)
 
 TEST_F(Ouverture, deux_programmes_ne_prennent_pas_le_meme_repertoire)
 {
-    const std::unique_ptr<QLockFile> premier = Prend_Repertoire(fichiers.Chemin());
-    ASSERT_NE(premier, nullptr);
-    EXPECT_EQ(Prend_Repertoire(fichiers.Chemin()), nullptr);
+    const Verrou premier = Prend_Repertoire(fichiers.Chemin());
+    ASSERT_EQ(premier.L_Etat(), Verrou::Etat::Pris);
+    EXPECT_EQ(Prend_Repertoire(fichiers.Chemin()).L_Etat(), Verrou::Etat::Occupe);
 }

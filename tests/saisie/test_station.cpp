@@ -137,9 +137,11 @@ TEST_F(Changement, un_log_dfcf_qui_ne_s_ouvre_pas_ne_vide_pas_les_autres)
     EXPECT_EQ(essai.etat.station.indicatif, u"F4ABC"_s);
 }
 
-TEST_F(Changement, les_logs_d_une_station_neuve_se_creent_vides_par_dessus_un_reste)
+TEST_F(Changement, les_logs_d_une_station_neuve_ne_vident_pas_un_log_qui_est_la)
 {
-    essai.fichiers.Pose(u"F4ABC_DMF.log"_s, QSO({}).toLatin1() + "\r\n");
+    const QByteArray log = QSO({}).toLatin1() + "\r\n";
+    essai.fichiers.Pose(u"F4ABC_DMF.log"_s, log);
     Cree_Logs(essai.poste, u"F4ABC");
-    EXPECT_EQ(essai.fichiers.Octets(u"F4ABC_DMF.log"_s), "");
+    EXPECT_EQ(essai.fichiers.Octets(u"F4ABC_DMF.log"_s), log);
+    EXPECT_EQ(essai.fichiers.Octets(u"F4ABC_DFCF.log"_s), "");
 }

@@ -5,8 +5,6 @@
 #include "plateforme/qt/Fichier_Sur.h"
 
 #include <QDir>
-#include <QFile>
-#include <QFileInfo>
 
 #include <utility>
 
@@ -35,16 +33,9 @@ QString Dossier_Disque::Chemin(const QString &nom) const
     return QDir(repertoire_).filePath(nom);
 }
 
-bool Dossier_Disque::S_Ouvre(const QString &nom) const
-{
-    QFile fichier(Chemin(nom));
-    return fichier.open(QIODevice::ReadOnly);
-}
-
 bool Dossier_Disque::Existe(const QString &nom) const
 {
-    const QFileInfo fichier(Chemin(nom));
-    return fichier.exists() || fichier.isSymLink();
+    return Existe_Fichier(Chemin(nom));
 }
 
 QString Dossier_Disque::Lit(const QString &nom) const
@@ -64,7 +55,7 @@ void Dossier_Disque::Remplace(const QString &nom, QStringView texte, const QStri
 
 void Dossier_Disque::Remplace_Octets(const QString &nom, QByteArrayView octets, const QString &temporaire)
 {
-    Remplace_Fichier(Chemin(nom), octets, Chemin(temporaire));
+    Remplace_Fichier(Chemin(nom), octets, temporaire);
 }
 
 void Dossier_Disque::Ajoute(const QString &nom, QStringView ligne)
@@ -87,5 +78,5 @@ void Dossier_Disque::Supprime(const QString &nom)
 
 void Dossier_Disque::Copie(const QString &source, const QString &cible)
 {
-    Remplace_Fichier(Chemin(cible), Lit_Fichier(Chemin(source)), Chemin(cible) + u".tmp");
+    Remplace_Fichier(Chemin(cible), Lit_Fichier(Chemin(source)), cible + u".tmp");
 }

@@ -8,7 +8,6 @@ public:
     explicit Dossier_Disque(QString repertoire);
 
     [[nodiscard]] QString Repertoire_Appli() const override { return repertoire_; }
-    [[nodiscard]] bool S_Ouvre(const QString &nom) const override;
     [[nodiscard]] bool Existe(const QString &nom) const override;
     [[nodiscard]] QString Lit(const QString &nom) const override;
     [[nodiscard]] QByteArray Octets(const QString &nom) const override;

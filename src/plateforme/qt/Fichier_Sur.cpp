@@ -1,215 +1,153 @@
 #include "plateforme/qt/Fichier_Sur.h"
 
-#include "plateforme/Erreur_Execution.h"
+#include "plateforme/qt/Descripteur.h"
+#include "plateforme/qt/Temporaire.h"
 
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
 
-#include <cerrno>
-#include <cstdio>
+#include <climits>
 #include <fcntl.h>
-#include <sys/stat.h>
+#include <optional>
 #include <unistd.h>
-#include <utility>
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
-QString Raison(int numero)
+/// What the system knows of a name; nullopt if nothing bears it.
+std::optional<struct stat> Etat_De(const QString &chemin, const QString &nom)
 {
-    switch (numero) {
-    case ENOENT:
-        return u"fichier introuvable"_s;
-    case ENOSPC:
-    case EDQUOT:
-        return u"le disque est plein"_s;
-    case EACCES:
-    case EPERM:
-        return u"accès refusé"_s;
-    case EROFS:
-        return u"le disque est protégé en écriture"_s;
-    case EISDIR:
-        return u"c'est un répertoire"_s;
-    case ENOTDIR:
-        return u"une partie du chemin n'est pas un répertoire"_s;
-    case ENAMETOOLONG:
-        return u"nom de fichier trop long"_s;
-    case EFBIG:
-        return u"fichier trop gros"_s;
-    case EIO:
-        return u"le disque ne répond pas bien"_s;
-    case EXDEV:
-        return u"sur un autre disque que le fichier temporaire"_s;
-    default:
-        return u"erreur %1 du système"_s.arg(numero);
-    }
+    struct stat etat {};
+    if (::lstat(QFile::encodeName(chemin).constData(), &etat) == 0)
+        return etat;
+    if (errno == ENOENT)
+        return std::nullopt;
+    throw Erreur_Systeme(nom, errno);
 }
 
-Cause La_Cause(int numero)
+QString Cible_Du_Lien(const QString &lien, const QString &nom)
 {
-    switch (numero) {
-    case ENOENT:
-        return Cause::Fichier_Introuvable;
-    case ENOSPC:
-    case EDQUOT:
-        return Cause::Disque_Plein;
-    default:
-        return Cause::Fichier_Refuse;
-    }
+    QByteArray octets(PATH_MAX, Qt::Uninitialized);
+    const ssize_t taille = ::readlink(QFile::encodeName(lien).constData(), octets.data(), PATH_MAX);
+    if (taille < 0)
+        throw Erreur_Systeme(nom, errno);
+    octets.truncate(taille);
+    return QDir(QFileInfo(lien).path()).filePath(QFile::decodeName(octets));
 }
 
-[[noreturn]] void Echoue(const QString &chemin, int numero)
-{
-    const QString fichier = QDir::toNativeSeparators(chemin);
-    throw Erreur_Execution(La_Cause(numero), u"%1 (%2)"_s.arg(fichier, Raison(numero)));
-}
-
-/// A file descriptor that is closed on every way out. Qt's QFile does not tell why a write or a sync failed.
-class Descripteur {
-public:
-    Descripteur(const QString &chemin, int drapeaux) : chemin_(chemin)
-    {
-        numero_ = ::open(QFile::encodeName(chemin).constData(), drapeaux | O_CLOEXEC, 0666);
-        if (numero_ < 0)
-            Echoue(chemin, errno);
-    }
-    ~Descripteur()
-    {
-        if (numero_ >= 0)
-            ::close(numero_);
-    }
-    Descripteur(const Descripteur &) = delete;
-    Descripteur &operator=(const Descripteur &) = delete;
-
-    [[nodiscard]] int Numero() const { return numero_; }
-
-    void Ecrit(QByteArrayView octets) const
-    {
-        while (!octets.empty()) {
-            const ssize_t ecrits = ::write(numero_, octets.data(), static_cast<std::size_t>(octets.size()));
-            if (ecrits < 0 && errno == EINTR)
-                continue;
-            if (ecrits < 0)
-                Echoue(chemin_, errno);
-            octets = octets.sliced(ecrits);
-        }
-    }
-
-    void Synchronise() const
-    {
-        if (::fsync(numero_) != 0)
-            Echoue(chemin_, errno);
-    }
-
-    /// A close can report a write that failed late (network folders).
-    void Ferme()
-    {
-        if (::close(std::exchange(numero_, -1)) != 0)
-            Echoue(chemin_, errno);
-    }
-
-private:
-    QString chemin_;
-    int numero_ = -1;
+struct Cible {
+    QString chemin; ///< behind all links
+    std::optional<struct stat> etat;
 };
+
+/// A log that is a link keeps being one: what it points to is replaced, or made.
+Cible Cible_Reelle(const QString &nom)
+{
+    constexpr int liens_au_plus = 40;
+    QString chemin = nom;
+    for (int liens = 0; liens < liens_au_plus; ++liens) {
+        const std::optional<struct stat> etat = Etat_De(chemin, nom);
+        if (!etat || !S_ISLNK(etat->st_mode))
+            return {.chemin = chemin, .etat = etat};
+        chemin = Cible_Du_Lien(chemin, nom);
+    }
+    throw Erreur_Systeme(nom, ELOOP);
+}
+
+/// A file that may not be written is not replaced behind its owner's back.
+void Exige_Remplacable(const Cible &cible, const QString &nom)
+{
+    if (!cible.etat)
+        return;
+    if (!S_ISREG(cible.etat->st_mode))
+        throw Erreur_Systeme(nom, S_ISDIR(cible.etat->st_mode) ? EISDIR : pas_un_fichier);
+    if (::access(QFile::encodeName(cible.chemin).constData(), W_OK) != 0)
+        throw Erreur_Systeme(nom, errno);
+}
 
 /// Some file systems refuse to sync a folder; the rename is then as safe as they make it.
 void Synchronise_Dossier(const QString &chemin)
 {
-    const QByteArray dossier = QFile::encodeName(QFileInfo(chemin).absolutePath());
-    const int numero = ::open(dossier.constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    const int numero = Descripteur::Ouvre(QFileInfo(chemin).absolutePath(), O_RDONLY | O_DIRECTORY);
     if (numero < 0)
         return;
-    ::fsync(numero);
+    Sans_Interruption([&] { return ::fsync(numero); });
     ::close(numero);
 }
 
-void Ecrit_Temporaire(const QString &temporaire, QByteArrayView octets)
-{
-    Descripteur fichier(temporaire, O_WRONLY | O_CREAT | O_TRUNC);
-    fichier.Ecrit(octets);
-    fichier.Synchronise();
-    fichier.Ferme();
-}
+/// Opens a log for the append; `nouveau` if it was made for it.
+struct Ouverture_Ajout {
+    int numero;
+    bool nouveau;
+};
 
-/// A device or a pipe is no file that another can take the place of: it takes the bytes themselves.
-bool Est_Un_Peripherique(const QString &chemin)
+Ouverture_Ajout Ouvre_Pour_Ajouter(const QString &chemin)
 {
-    struct stat etat {};
-    return ::stat(QFile::encodeName(chemin).constData(), &etat) == 0 && !S_ISREG(etat.st_mode) &&
-           !S_ISDIR(etat.st_mode);
-}
-
-void Ecrit_Au_Peripherique(const QString &chemin, QByteArrayView octets)
-{
-    Descripteur peripherique(chemin, O_WRONLY);
-    peripherique.Ecrit(octets);
-    peripherique.Ferme();
-}
-
-struct stat Etat(const Descripteur &fichier, const QString &chemin)
-{
-    struct stat etat {};
-    if (::fstat(fichier.Numero(), &etat) != 0)
-        Echoue(chemin, errno);
-    return etat;
+    const int numero = Descripteur::Ouvre(chemin, O_RDWR | O_APPEND);
+    if (numero >= 0)
+        return {.numero = numero, .nouveau = false};
+    if (errno != ENOENT)
+        throw Erreur_Systeme(chemin, errno);
+    const QString reel = Cible_Reelle(chemin).chemin;
+    const int neuf = Descripteur::Ouvre(reel, O_RDWR | O_APPEND | O_CREAT | O_EXCL);
+    if (neuf < 0)
+        throw Erreur_Systeme(chemin, errno);
+    return {.numero = neuf, .nouveau = true};
 }
 
 /// A last character that cannot be read is a failure: two lines might join.
 bool Finit_Sans_Ligne(const Descripteur &fichier, const QString &chemin, off_t taille)
 {
     char dernier = '\n';
-    if (taille > 0 && ::pread(fichier.Numero(), &dernier, 1, taille - 1) < 0)
-        Echoue(chemin, errno);
+    if (taille > 0 && Sans_Interruption([&] { return ::pread(fichier.Numero(), &dernier, 1, taille - 1); }) != 1)
+        throw Erreur_Systeme(chemin, errno);
     return dernier != '\n';
 }
 
-/// A log that is a link keeps being one: what it points to is replaced.
-QString Cible_Reelle(const QString &chemin)
+/// Takes a line away that did not get whole to the disk. False if the disk refuses that too.
+bool Reprend(const Descripteur &fichier, off_t taille)
 {
-    const QString reel = QFileInfo(chemin).canonicalFilePath();
-    return reel.isEmpty() ? chemin : reel;
+    return ::ftruncate(fichier.Numero(), taille) == 0;
 }
 
 } // namespace
 
-void Remplace_Fichier(const QString &cible, QByteArrayView octets, const QString &temporaire)
+void Remplace_Fichier(const QString &cible, QByteArrayView octets, const QString &radical, mode_t droits)
 {
-    const QString reelle = Cible_Reelle(cible);
-    if (Est_Un_Peripherique(reelle)) {
-        Ecrit_Au_Peripherique(reelle, octets);
-        return;
-    }
+    QString reelle = cible;
     try {
-        Ecrit_Temporaire(temporaire, octets);
-        struct stat ancien {};
-        const QByteArray cible_octets = QFile::encodeName(reelle);
-        if (::stat(cible_octets.constData(), &ancien) == 0) {
-            // A file that may not be written is not replaced behind its owner's back.
-            if (S_ISDIR(ancien.st_mode))
-                Echoue(reelle, EISDIR);
-            if (::access(cible_octets.constData(), W_OK) != 0)
-                Echoue(reelle, errno);
-            ::chmod(QFile::encodeName(temporaire).constData(), ancien.st_mode & 07777);
-        }
-        if (::rename(QFile::encodeName(temporaire).constData(), cible_octets.constData()) != 0)
-            Echoue(reelle, errno);
-    } catch (const Erreur_Execution &erreur) {
-        ::unlink(QFile::encodeName(temporaire).constData());
-        // The user knows the log by its name, not the temporary file that could not be written.
-        throw Erreur_Execution(erreur.La_Cause(),
-                               u"%1 n'a pas été modifié : %2"_s.arg(QDir::toNativeSeparators(reelle), erreur.Texte()));
+        const Cible trouvee = Cible_Reelle(cible);
+        reelle = trouvee.chemin;
+        Exige_Remplacable(trouvee, cible);
+        Temporaire temporaire(reelle, radical, cible, trouvee.etat ? 0600 : droits);
+        temporaire.Remplit(octets, trouvee.etat);
+        temporaire.Devient(reelle);
+    } catch (const Erreur_Systeme &erreur) {
+        throw Erreur_Execution(erreur.La_Cause(), u"%1 n'a pas été modifié : %2"_s.arg(QDir::toNativeSeparators(cible),
+                                                                                       Raison(erreur.Numero())));
     }
     Synchronise_Dossier(reelle);
 }
 
+void Ecrit_Document(const QString &cible, QByteArrayView octets)
+{
+    struct stat etat {};
+    const bool existe = ::stat(QFile::encodeName(cible).constData(), &etat) == 0;
+    if (!existe || S_ISREG(etat.st_mode) || S_ISDIR(etat.st_mode))
+        return Remplace_Fichier(cible, octets, cible + u".tmp");
+    Descripteur peripherique(cible, O_WRONLY);
+    peripherique.Ecrit(octets);
+    peripherique.Ferme();
+}
+
 void Ajoute_Au_Fichier(const QString &chemin, QByteArrayView ligne)
 {
-    const bool nouveau = !QFileInfo::exists(chemin);
-    Descripteur fichier(chemin, O_RDWR | O_CREAT | O_APPEND);
-    const off_t taille = Etat(fichier, chemin).st_size;
+    const Ouverture_Ajout ouverture = Ouvre_Pour_Ajouter(chemin);
+    const Descripteur fichier(ouverture.numero, chemin);
+    fichier.Exige_Un_Fichier();
+    const off_t taille = fichier.Etat().st_size;
     QByteArray octets;
     if (Finit_Sans_Ligne(fichier, chemin, taille))
         octets += "\r\n";
@@ -217,24 +155,26 @@ void Ajoute_Au_Fichier(const QString &chemin, QByteArrayView ligne)
     try {
         fichier.Ecrit(octets);
         fichier.Synchronise();
-        fichier.Ferme();
-    } catch (const Erreur_Execution &) {
-        // A line that was cut by a full disk must not stay behind, nor a file that was born for it.
-        const QByteArray nom = QFile::encodeName(chemin);
-        std::ignore = nouveau ? ::unlink(nom.constData()) : ::truncate(nom.constData(), taille);
-        throw;
+    } catch (const Erreur_Systeme &erreur) {
+        const bool reprise = Reprend(fichier, taille);
+        if (ouverture.nouveau && reprise)
+            ::unlink(QFile::encodeName(Cible_Reelle(chemin).chemin).constData());
+        if (reprise)
+            throw;
+        throw Erreur_Execution(erreur.La_Cause(),
+                               erreur.Texte() + u". La ligne est peut-être restée dans le fichier : vérifiez-le");
     }
-    if (nouveau)
+    if (ouverture.nouveau)
         Synchronise_Dossier(chemin);
 }
 
 void Cree_Fichier_Absent(const QString &chemin)
 {
-    const int numero = ::open(QFile::encodeName(chemin).constData(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666);
+    const int numero = Descripteur::Ouvre(chemin, O_WRONLY | O_CREAT | O_EXCL);
     if (numero < 0) {
         if (errno == EEXIST)
             return;
-        Echoue(chemin, errno);
+        throw Erreur_Systeme(chemin, errno);
     }
     ::close(numero);
     Synchronise_Dossier(chemin);
@@ -243,28 +183,29 @@ void Cree_Fichier_Absent(const QString &chemin)
 void Supprime_Fichier(const QString &chemin)
 {
     if (::unlink(QFile::encodeName(chemin).constData()) != 0)
-        Echoue(chemin, errno);
+        throw Erreur_Systeme(chemin, errno);
 }
 
 QByteArray Lit_Fichier(const QString &chemin)
 {
     const Descripteur fichier(chemin, O_RDONLY);
-    const struct stat etat = Etat(fichier, chemin);
-    if (S_ISDIR(etat.st_mode))
-        Echoue(chemin, EISDIR);
-    QByteArray octets(etat.st_size, Qt::Uninitialized);
-    qsizetype lus = 0;
-    while (lus < octets.size()) {
-        const ssize_t morceau =
-            ::read(fichier.Numero(), octets.data() + lus, static_cast<std::size_t>(octets.size() - lus));
-        if (morceau < 0 && errno == EINTR)
-            continue;
-        if (morceau < 0)
-            Echoue(chemin, errno);
-        if (morceau == 0)
-            break;
-        lus += morceau;
-    }
-    octets.truncate(lus);
-    return octets;
+    fichier.Exige_Un_Fichier();
+    return fichier.Lit_Tout();
+}
+
+bool Existe_Fichier(const QString &chemin)
+{
+    return Etat_De(chemin, chemin).has_value();
+}
+
+void Cree_Repertoire(const QString &chemin)
+{
+    if (::mkdir(QFile::encodeName(chemin).constData(), 0777) == 0 || errno == EEXIST)
+        return;
+    const QString dessus = QFileInfo(chemin).absolutePath();
+    if (errno != ENOENT || dessus == chemin)
+        throw Erreur_Systeme(chemin, errno);
+    Cree_Repertoire(dessus);
+    if (::mkdir(QFile::encodeName(chemin).constData(), 0777) != 0 && errno != EEXIST)
+        throw Erreur_Systeme(chemin, errno);
 }

@@ -89,7 +89,7 @@ std::optional<QString> Imprime_En_Fichier(const QPrinter &imprimante, const std:
     if (!Peint(papier, Mise_En_Page(papier, lignes), feuilles))
         return echec + u"le document n'a pas pu être composé";
     const QString fichier = imprimante.outputFileName();
-    if (const auto empechement = Empechement([&] { Remplace_Fichier(fichier, octets.data(), fichier + u".tmp"); }))
+    if (const auto empechement = Empechement([&] { Ecrit_Document(fichier, octets.data()); }))
         return echec + *empechement;
     return std::nullopt;
 }

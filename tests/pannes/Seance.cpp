@@ -1,0 +1,40 @@
+#include "Seance.h"
+
+#include <QSettings>
+
+Position::Position(const QString &donnees) : dossier(donnees)
+{
+    etat.station.indicatif = QStringLiteral("F9ZZY");
+    vue.au_clic = [this](const QString &entree) { Clic_Liste(poste, vue, entree); };
+}
+
+Seance::Seance(const Terrain &terrain, const Plan_De_Panne &plan)
+    : terrain_(terrain),
+      plan_(plan),
+      surveilles_(terrain.Surveilles())
+{
+    plan_.dossiers = surveilles_.constData();
+    QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, terrain.Reglages());
+    QSettings::setPath(QSettings::NativeFormat, QSettings::SystemScope, QStringLiteral("/nulle part"));
+}
+
+void Seance::Arme() const
+{
+    Arme_Pannes(&plan_);
+}
+
+Position &Seance::Le_Programme()
+{
+    if (!programme_)
+        programme_.emplace(terrain_.Donnees());
+    return *programme_;
+}
+
+QStringList Seance::Messages() const
+{
+    QStringList tous = messages_;
+    if (programme_)
+        for (const QString &message : programme_->boites.messages)
+            tous += message;
+    return tous;
+}
