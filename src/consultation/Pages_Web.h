@@ -1,11 +1,8 @@
 #pragma once
 
-#include "log/Diplome.h"
-
 #include <QString>
 
 #include <array>
-#include <optional>
 
 struct Poste;
 
@@ -26,15 +23,6 @@ int Place_Cluster(const Poste &poste);
 
 /// Stores the place and makes its page the page address. Empty without a host.
 void Choisit_Cluster(Poste &poste, int place);
-
-/// Where the rules of an award are: the award whose site it is, and the path there. nullopt without an
-/// award.
-struct Reglement {
-    Diplome diplome;
-    QStringView site;
-    QStringView chemin;
-};
-std::optional<Reglement> Reglement_De(std::optional<Diplome> diplome);
 
 /// Makes the rules of the current award the page address, empty without a host; an award without rules leaves it as it
 /// was.

@@ -20,18 +20,6 @@ inline constexpr std::array<QStringView, 12> bandes = {
 /// The entries of Mode_A.
 inline constexpr std::array<QStringView, 5> modes = {u"SSB", u"CW", u"PSK", u"TTY", u"FM"};
 
-/// How the entry screen is dressed for an award. nullopt leaves a text as the award before it left it.
-struct Habillage {
-    QStringView frame3; ///< for the challenges without the year, which goes behind it
-    QStringView detail;
-    std::optional<QStringView> detail_1;
-    std::optional<QStringView> nom_l;
-    QStringView label1;
-    QStringView type_ref;
-};
-
-const Habillage &Habillage_De(Diplome diplome);
-
 /// The word before the reference; none without an award.
 QStringView Type_Ref(std::optional<Diplome> diplome);
 
@@ -39,5 +27,3 @@ QStringView Type_Ref(std::optional<Diplome> diplome);
 QString En_Forme_De_Code(const QString &texte);
 /// The two challenges, whose log bears a year.
 bool Est_Challenge(std::optional<Diplome> diplome);
-/// The award whose sites a challenge takes up: DFCF of Ch_DFCF, DMF of Ch_DMF; any other stands for itself.
-Diplome Source_Challenge(Diplome challenge);

@@ -1,10 +1,10 @@
 #include "outils/Choisit_Annee.h"
 
-#include "log/Catalogue.h"
 #include "log/Charge_Log.h"
 #include "log/Chemin_Log.h"
 #include "log/Cles.h"
 #include "log/Etat_Commun.h"
+#include "log/Notice.h"
 #include "log/Poste.h"
 #include "log/Reglages_Station.h"
 #include "plateforme/Boites.h"
@@ -44,7 +44,7 @@ bool Ouvre_Le_Log(Poste &poste, const QString &annee)
 QStringView Genre_Challenge(const Poste &poste)
 {
     const std::optional<Diplome> challenge = poste.etat.challenge;
-    return challenge ? Code(Source_Challenge(*challenge)) : QStringView();
+    return challenge ? Code(Notice_De(*challenge).source) : QStringView();
 }
 
 QString Annee_Challenge(const Poste &poste)

@@ -8,6 +8,7 @@
 #include "log/Historique.h"
 #include "log/Ligne_Affichage.h"
 #include "log/Moment.h"
+#include "log/Notice.h"
 #include "log/Poste.h"
 #include "log/Reglages_Station.h"
 #include "outils/Sauve_Logs.h"
@@ -99,9 +100,9 @@ void Montre_Le_Log(Poste &poste, Vue_Saisie &vue)
 /// Carries a station's folder over versions that added awards.
 void Cree_Logs_Manquants(Poste &poste)
 {
-    for (const Diplome diplome :
-         {Diplome::DFF, Diplome::DVFF, Diplome::WLF, Diplome::DYLF, Diplome::DDFM, Diplome::DPF, Diplome::PC})
-        Tolere([&] { poste.dossier.Cree_Si_Absent(Chemin_Log(poste.etat.station.indicatif, diplome)); });
+    for (const Diplome diplome : tous_les_diplomes)
+        if (Notice_De(diplome).ajoute)
+            Tolere([&] { poste.dossier.Cree_Si_Absent(Chemin_Log(poste.etat.station.indicatif, diplome)); });
     Tolere([&] { poste.dossier.Cree_Si_Absent(u"Liste_PC.csv"_s); });
     Tolere([&] { poste.dossier.Cree_Si_Absent(fichier_prenoms.toString()); });
 }

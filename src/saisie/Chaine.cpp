@@ -2,6 +2,7 @@
 
 #include "log/Cles.h"
 #include "log/Etat_Commun.h"
+#include "log/Notice.h"
 #include "log/Poste.h"
 #include "log/Recherches_Log.h"
 #include "plateforme/Boites.h"
@@ -19,7 +20,12 @@ namespace {
 
 bool Sans_Reference(std::optional<Diplome> diplome)
 {
-    return diplome == Diplome::DPF || diplome == Diplome::DDFM || diplome == Diplome::DYLF;
+    return diplome && !Notice_De(*diplome).ref;
+}
+
+bool Sans_Dpt_Impose(std::optional<Diplome> diplome)
+{
+    return diplome && Notice_De(*diplome).dpt_libre;
 }
 
 void Entree_Bande(Poste &poste, Vue_Saisie &vue)
@@ -44,7 +50,7 @@ void Entree_Ind(Poste &poste, Vue_Saisie &vue)
 
 void Entree_Dpt(Poste &poste, Vue_Saisie &vue)
 {
-    if (poste.etat.station.diplome != Diplome::FFF && !Passe(poste, Refus_Dpt(vue.Texte(Controle::Dpt_A))))
+    if (!Sans_Dpt_Impose(poste.etat.station.diplome) && !Passe(poste, Refus_Dpt(vue.Texte(Controle::Dpt_A))))
         return;
     if (poste.etat.saisie_differee || poste.etat.QSO_Touche()) {
         Avance(vue, Controle::Date_A);

@@ -4,6 +4,7 @@
 #include "log/Charge_Log.h"
 #include "log/Cles.h"
 #include "log/Etat_Commun.h"
+#include "log/Notice.h"
 #include "log/Poste.h"
 #include "log/Reglages_Station.h"
 #include "plateforme/Boites.h"
@@ -93,7 +94,7 @@ bool Habille_Challenge(Poste &poste, Vue_Saisie &vue, const Challenge &challenge
 
 bool Habille(Poste &poste, Vue_Saisie &vue, Diplome diplome)
 {
-    const Habillage &habillage = Habillage_De(diplome);
+    const Habillage &habillage = Notice_De(diplome).habillage;
     for (const Challenge &challenge : challenges)
         if (challenge.diplome == diplome)
             return Habille_Challenge(poste, vue, challenge, habillage);

@@ -62,13 +62,13 @@ void Remplit_Dpt(Vue_Saisie &vue, const Regle_Ref &regle, const Reference_Trouve
 
 void Remplit_Nom(Vue_Saisie &vue, const Regle_Ref &regle, const Reference_Trouvee &trouvee)
 {
-    if (!regle.nom_recherche)
+    if (!regle.nom)
         return;
     QString nom = trouvee.nom.value_or(QString());
-    if (regle.nom_en_capitales)
+    if (regle.nom->en_capitales)
         nom = Majuscules_1252(nom);
-    if (regle.coupe > 0)
-        nom.truncate(regle.coupe);
+    if (regle.nom->coupe)
+        nom.truncate(*regle.nom->coupe);
     vue.Ecrit(Controle::Nom_A, nom);
 }
 
@@ -82,12 +82,13 @@ void Pose_Prefixe(const Poste &poste, Vue_Saisie &vue, const Regle_Ref &regle)
 }
 
 /// False if the reference was refused.
-bool Applique_Regle(Poste &poste, Vue_Saisie &vue, const Regle_Ref &regle, const QString &ref)
+bool Applique_Regle(Poste &poste, Vue_Saisie &vue, Diplome diplome, const QString &ref)
 {
-    if (!Passe(poste, Refus_Forme_Ref(regle, ref)))
+    const Regle_Ref &regle = *Regle_Ref_De(diplome);
+    if (!Passe(poste, Refus_Forme_Ref(diplome, ref)))
         return false;
     const Reference_Trouvee trouvee = Recherche(poste, ref);
-    if (regle.diplome == Diplome::DCF && trouvee.dpt.value_or(QString()).isEmpty())
+    if (diplome == Diplome::DCF && trouvee.dpt.value_or(QString()).isEmpty())
         poste.boites.Message(u"Référence non trouvée, cliquez sur le bouton 'Liste Cathédrales'"_s);
     Remplit_Dpt(vue, regle, trouvee, ref);
     Remplit_Nom(vue, regle, trouvee);
@@ -102,8 +103,8 @@ void Entree_Ref(Poste &poste, Vue_Saisie &vue)
     const QString ref = vue.Texte(Controle::Ref_A);
     if (!Passe(poste, Refus_Longueur_Generale(ref)) || !Passe(poste, Refus_Repetition(poste, ref)))
         return;
-    const Regle_Ref *regle = Regle_Ref_De(poste.etat.station.diplome);
-    if (regle && !Applique_Regle(poste, vue, *regle, ref))
+    const std::optional<Diplome> diplome = poste.etat.station.diplome;
+    if (Regle_Ref_De(diplome) && !Applique_Regle(poste, vue, *diplome, ref))
         return;
     Avance(vue, Controle::Dpt_A);
 }

@@ -3,6 +3,7 @@
 #include "log/Catalogue.h"
 #include "log/Historique.h"
 #include "log/Ligne_Affichage.h"
+#include "log/Notice.h"
 
 #include <gtest/gtest.h>
 
@@ -22,7 +23,7 @@ QString Habillages()
 {
     QString texte;
     for (const Diplome diplome : tous_les_diplomes) {
-        const Habillage *habillage = &Habillage_De(diplome);
+        const Habillage *habillage = &Notice_De(diplome).habillage;
         const QStringList champs{Code(diplome).toString(),      habillage->frame3.toString(),
                                  habillage->detail.toString(),  Ou_Inchange(habillage->detail_1),
                                  Ou_Inchange(habillage->nom_l), habillage->label1.toString().replace(u'\n', u"\\n"_s),

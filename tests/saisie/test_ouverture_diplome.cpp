@@ -2,6 +2,7 @@
 #include "faux/Impression.h"
 #include "faux/QSO_Essai.h"
 #include "faux/Vue_Fausse.h"
+#include "log/Notice.h"
 #include "saisie/Chaine.h"
 
 #include <gtest/gtest.h>
@@ -52,11 +53,11 @@ TEST_F(Diplome_Choisi, chaque_code_s_ouvre_sur_la_bande_et_se_retient)
         SCOPED_TRACE(code.toString().toStdString());
         Ouvre(code);
         EXPECT_EQ(essai.etat.station.diplome, Diplome_De(code));
-        EXPECT_EQ(vue.Texte(Controle::Type_Ref), Habillage_De(*Diplome_De(code)).type_ref.toString());
-        EXPECT_EQ(vue.Texte(Detail), Habillage_De(*Diplome_De(code)).detail.toString());
-        EXPECT_EQ(vue.Texte(Label1), Habillage_De(*Diplome_De(code)).label1.toString());
+        EXPECT_EQ(vue.Texte(Controle::Type_Ref), Notice_De(*Diplome_De(code)).habillage.type_ref.toString());
+        EXPECT_EQ(vue.Texte(Detail), Notice_De(*Diplome_De(code)).habillage.detail.toString());
+        EXPECT_EQ(vue.Texte(Label1), Notice_De(*Diplome_De(code)).habillage.label1.toString());
         const QString annee = Est_Challenge(Diplome_De(code)) ? u"2026"_s : QString();
-        EXPECT_EQ(vue.Texte(Frame3), Habillage_De(*Diplome_De(code)).frame3.toString() + annee);
+        EXPECT_EQ(vue.Texte(Frame3), Notice_De(*Diplome_De(code)).habillage.frame3.toString() + annee);
         EXPECT_EQ(vue.focus, Bande_A);
         EXPECT_TRUE(vue.Est_Actif(Bande_A));
         EXPECT_TRUE(vue.Est_Actif(Ind_A));
