@@ -33,7 +33,7 @@ QByteArray Fichier_ADIF(std::int64_t enregistrements)
 
 struct Ecran_Muet : Ecran_Import {
     QString chemin;
-    QString Choisit_Fichier() override { return chemin; }
+    std::optional<QString> Choisit_Fichier() override { return chemin; }
     void Avance(std::size_t, std::size_t) override {}
     void Ferme() override {}
 };

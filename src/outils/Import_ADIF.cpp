@@ -110,7 +110,10 @@ void Importe(Poste &poste, const Choix_Import &choix, Ecran_Import &ecran)
 void Import_ADIF(Poste &poste, const Choix_Import &choix, Ecran_Import &ecran)
 {
     const std::optional<Diplome> diplome = poste.etat.station.diplome;
-    const QString chemin = ecran.Choisit_Fichier();
+    const std::optional<QString> choisi = ecran.Choisit_Fichier();
+    if (!choisi)
+        return Retablit_Un_Import_Coupe(poste);
+    const QString &chemin = *choisi;
     if (chemin.isEmpty()) {
         poste.boites.Message(u"selectionnez un fichier ou quitter"_s);
         Remet_Le_Log(poste);

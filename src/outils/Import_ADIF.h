@@ -5,6 +5,7 @@
 #include <QString>
 
 #include <cstddef>
+#include <optional>
 
 struct Poste;
 
@@ -12,8 +13,8 @@ struct Poste;
 class Ecran_Import {
 public:
     virtual ~Ecran_Import() = default;
-    /// The full path of the file to read; empty if none was chosen.
-    virtual QString Choisit_Fichier() = 0;
+    /// The full path of the file to read; empty if none was chosen, nullopt if the screen was closed meanwhile.
+    virtual std::optional<QString> Choisit_Fichier() = 0;
     /// So many lines of the file are done.
     virtual void Avance(std::size_t faites, std::size_t total) = 0;
     virtual void Ferme() = 0;

@@ -54,7 +54,7 @@ struct Ecran_Import_Faux : Ecran_Import {
     std::size_t total = 0;
     std::function<void()> a_la_fermeture = [] {};
 
-    QString Choisit_Fichier() override
+    std::optional<QString> Choisit_Fichier() override
     {
         if (pendant_le_choix)
             pendant_le_choix();

@@ -106,6 +106,53 @@ TEST_F(Ecran_ADIF, ce_qui_dure_plus_d_une_seconde_montre_son_avance_et_le_reste_
     }
 }
 
+TEST_F(Ecran_ADIF, une_seconde_importation_commence_une_nouvelle_attente)
+{
+    ecran->setAttribute(Qt::WA_DeleteOnClose, false);
+    ailleurs.Pose(u"lent_DFCF.adi"_s,
+                  "<EOH>\r\n<CALL:1>A <STATE:2>77 <SIG:1>1 <QSO_DATE:8>20150926 <BAND:3>20M <EOR>\r\n"
+                  "<CALL:1>B <STATE:2>77 <SIG:1>2 <QSO_DATE:8>20150926 <TIME_ON:4>1405 <BAND:3>20M <EOR>");
+    Pose(u"vite_DFCF.adi"_s, 3);
+    auto *barre = ecran->findChild<QProgressBar *>(u"Progression"_s);
+    essai.boites.pendant_message = [] { QThread::msleep(1050); };
+    Choisit(ailleurs.Chemin(u"lent_DFCF.adi"_s));
+    Appuie();
+    EXPECT_TRUE(barre->isHidden());
+    EXPECT_EQ(ecran->cursor().shape(), Qt::ArrowCursor);
+    ecran->show();
+    Temoin temoin;
+    barre->installEventFilter(&temoin);
+    Choisit(ailleurs.Chemin(u"vite_DFCF.adi"_s));
+    Appuie();
+    EXPECT_FALSE(temoin.montre);
+}
+
+TEST_F(Ecran_ADIF, un_ecran_ferme_derriere_le_dialogue_rend_le_log_mis_de_cote)
+{
+    const QByteArray log = (QSO({.ref = u"01001"_s}) + u"\r\n").toLatin1();
+    essai.fichiers.Pose(u"F9ZZY_DFCF.log"_s, log);
+    for (const bool remplace : {true, false}) {
+        Option(remplace ? u"Remplace"_s : u"Ajout"_s)->click();
+        Dans_Le_Dialogue([this](QFileDialog *) { ecran->close(); });
+        ecran->findChild<QPushButton *>(u"Importer"_s)->click();
+        EXPECT_TRUE(ecran.isNull());
+        EXPECT_EQ(essai.fichiers.Octets(u"F9ZZY_DFCF.log"_s), log);
+        EXPECT_FALSE(essai.fichiers.Existe(u"F9ZZY_DFCF.bak"_s));
+        ecran = new ADIF(essai.poste);
+        ecran->show();
+    }
+}
+
+TEST_F(Ecran_ADIF, un_ecran_ferme_pendant_une_question_de_l_import_laisse_l_import_finir)
+{
+    ailleurs.Pose(u"DFCF.adi"_s, "<EOH>\r\n<CALL:1>A <STATE:2>77 <SIG:1>1 <QSO_DATE:8>20150926 <BAND:3>20M <EOR>");
+    essai.boites.pendant_message = [this] { delete ecran; };
+    Choisit(ailleurs.Chemin(u"DFCF.adi"_s));
+    ecran->findChild<QPushButton *>(u"Importer"_s)->click();
+    EXPECT_TRUE(ecran.isNull());
+    EXPECT_EQ(essai.ecran.liste.size(), 1U);
+}
+
 TEST_F(Ecran_ADIF, ses_textes)
 {
     EXPECT_EQ(ecran->objectName(), u"ADIF"_s);

@@ -10,6 +10,7 @@
 
 #include <QBoxLayout>
 #include <QLabel>
+#include <QPointer>
 #include <QPushButton>
 
 #include <algorithm>
@@ -79,8 +80,10 @@ QBoxLayout *Ecran_Liste::Boutons()
     Ajoute_Bouton(boutons, u"Enregistrer"_s, u"Enregistrer"_s, [this] { Enregistre_Liste(poste_, liste_, etat_); });
     if (liste_.adif)
         Ajoute_Bouton(boutons, u"ADIF"_s, u"Fichier ADIF"_s, [this] {
+            const QPointer<Ecran_Liste> ici(this);
             ADIF_Ouvrages(poste_, liste_, etat_);
-            Montre_Etat();
+            if (ici)
+                Montre_Etat();
         });
     boutons->addStretch();
     Ajoute_Bouton(boutons, u"Command1"_s, u"Quitter"_s, [this] { close(); });

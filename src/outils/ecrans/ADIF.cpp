@@ -10,10 +10,10 @@
 #include <QFileInfo>
 #include <QGuiApplication>
 #include <QLabel>
+#include <QPointer>
 #include <QProgressBar>
 #include <QPushButton>
 #include <QRadioButton>
-#include <QScopeGuard>
 #include <QVBoxLayout>
 
 using namespace Qt::StringLiterals;
@@ -32,7 +32,59 @@ void Groupe(QWidget *ecran, QRadioButton *premier, QRadioButton *second)
     groupe->addButton(second);
 }
 
+/// The path that the operator chooses; empty without a choice, also when the screen was closed meanwhile.
+QString Chemin_Choisi(QWidget &ecran, const QString &dossier)
+{
+    // On the heap: it goes with its screen if that is closed while it stands open.
+    const QPointer<QFileDialog> dialogue = new QFileDialog(&ecran, ecran.windowTitle(), dossier);
+    dialogue->setOptions(QFileDialog::DontUseNativeDialog | QFileDialog::HideNameFilterDetails);
+    dialogue->setFileMode(QFileDialog::ExistingFile);
+    dialogue->setNameFilter(u".adi (adi) (*.adi)"_s);
+    const bool choisi = dialogue->exec() == QDialog::Accepted && dialogue;
+    QString chemin = choisi ? dialogue->selectedFiles().value(0) : QString();
+    delete dialogue;
+    return chemin;
+}
+
 } // namespace
+
+/// Stands between the import and the screen, which may be closed while a dialogue or a box of the import is open.
+class ADIF::Guichet : public Ecran_Import {
+public:
+    explicit Guichet(ADIF &ecran) : poste_(ecran.poste_), ecran_(&ecran) {}
+    Guichet(const Guichet &) = delete;
+    Guichet &operator=(const Guichet &) = delete;
+    ~Guichet() override
+    {
+        if (ecran_)
+            ecran_->Repose();
+    }
+
+    std::optional<QString> Choisit_Fichier() override
+    {
+        QString &dossier = poste_.etat.dossier_adif;
+        QString chemin = Chemin_Choisi(*ecran_, dossier.isEmpty() ? poste_.dossier.Repertoire_Appli() : dossier);
+        if (!ecran_)
+            return std::nullopt;
+        if (!chemin.isEmpty())
+            dossier = QFileInfo(chemin).path();
+        return chemin;
+    }
+    void Avance(std::size_t faites, std::size_t total) override
+    {
+        if (ecran_)
+            ecran_->Avance(faites, total);
+    }
+    void Ferme() override
+    {
+        if (ecran_)
+            ecran_->close();
+    }
+
+private:
+    Poste &poste_;
+    QPointer<ADIF> ecran_;
+};
 
 ADIF::ADIF(Poste &poste)
     : Ecran(u"ADIF"_s, u"Importer un fichier ADIF"_s),
@@ -98,23 +150,9 @@ void ADIF::Pose_Destinations(QVBoxLayout &colonne)
 
 void ADIF::Lance()
 {
-    const auto fin = qScopeGuard([this] {
-        progression_->hide();
-        unsetCursor();
-    });
+    Guichet guichet(*this);
     depuis_le_debut_.invalidate();
-    Importe(poste_, {.multi = r_multi_->isChecked(), .ajout = ajout_->isChecked()}, *this);
-}
-
-QString ADIF::Choisit_Fichier()
-{
-    QString &dossier = poste_.etat.dossier_adif;
-    const QString chemin = QFileDialog::getOpenFileName(
-        this, windowTitle(), dossier.isEmpty() ? poste_.dossier.Repertoire_Appli() : dossier, u".adi (adi) (*.adi)"_s,
-        nullptr, QFileDialog::DontUseNativeDialog | QFileDialog::HideNameFilterDetails);
-    if (!chemin.isEmpty())
-        dossier = QFileInfo(chemin).path();
-    return chemin;
+    Importe(poste_, {.multi = r_multi_->isChecked(), .ajout = ajout_->isChecked()}, guichet);
 }
 
 void ADIF::Avance(std::size_t faites, std::size_t total)
@@ -135,7 +173,8 @@ void ADIF::Avance(std::size_t faites, std::size_t total)
     progression_->repaint();
 }
 
-void ADIF::Ferme()
+void ADIF::Repose()
 {
-    close();
+    progression_->hide();
+    unsetCursor();
 }

@@ -12,7 +12,7 @@ class QVBoxLayout;
 struct Poste;
 
 /// Chooses how a file is imported into the log of the current award, and imports it.
-class ADIF : public Ecran, private Ecran_Import {
+class ADIF : public Ecran {
     Q_OBJECT
 
 public:
@@ -22,13 +22,13 @@ public:
     void Suit_Le_Log() override;
 
 private:
+    class Guichet;
+
     void Pose_Formats(QVBoxLayout &colonne);
     void Pose_Destinations(QVBoxLayout &colonne);
     void Lance();
-
-    QString Choisit_Fichier() override;
-    void Avance(std::size_t faites, std::size_t total) override;
-    void Ferme() override;
+    void Avance(std::size_t faites, std::size_t total);
+    void Repose();
 
     Poste &poste_;
     QLabel *titre_;
