@@ -35,7 +35,7 @@ Recherche_Indicatif::Recherche_Indicatif(Poste &poste)
     grille->setColumnStretch(2, 1);
     grille->setRowStretch(4, 1);
 
-    connect(qApp, &QApplication::focusChanged, this,
+    connect(qApp, &QApplication::focusChanged, &suivi_du_focus_,
             [this](QWidget *, QWidget *maintenant) { Suit_Le_Focus(maintenant); });
     connect(qso_effectues_, &Liste_Fixe::Double_Cliquee, this, &Recherche_Indicatif::Retourne);
     connect(quitter, &QPushButton::clicked, this, &QWidget::close);

@@ -37,4 +37,6 @@ private:
     QLabel *titre_;
     std::array<Choix, 3> choix_{};
     Liste_Fixe *qso_effectues_;
+    /// Ends the following of the focus before the fields go, which hand it on while they do.
+    QObject suivi_du_focus_;
 };

@@ -59,7 +59,7 @@ Main::Main(const Ports &ports, Etat_Commun &etat) : poste_{ports, etat, *this}
     Relie_Boutons();
     Relie_Liste();
     connect(&seconde_, &QTimer::timeout, this, [this] { Tique(poste_, *this); });
-    connect(qApp, &QApplication::focusChanged, this, [this](QWidget *, QWidget *maintenant) {
+    connect(qApp, &QApplication::focusChanged, &suivi_du_focus_, [this](QWidget *, QWidget *maintenant) {
         if (maintenant && maintenant->window() == this)
             Marque_Courant(maintenant);
     });

@@ -76,4 +76,6 @@ private:
     Lignes_Texte lignes_;
     QWidget *courant_ = nullptr;
     QTimer seconde_;
+    /// Ends the following of the focus before the fields go, which hand it on while they do.
+    QObject suivi_du_focus_;
 };
