@@ -1,9 +1,10 @@
 #include "diplomes/ADIF_Canal.h"
 
+#include "adif/Bandes_En_Metres.h"
+#include "adif/Enregistrement_ADIF.h"
 #include "diplomes/ADIF_Ouvrages.h"
 #include "diplomes/Lit_Sources.h"
 #include "diplomes/regles/Canal.h"
-#include "diplomes/regles/Enregistrement_ADIF.h"
 #include "log/Champ.h"
 #include "log/Etat_Commun.h"
 #include "log/Poste.h"
@@ -48,17 +49,17 @@ std::map<QStringView, QStringView> Premieres_Lignes(const Lignes_Texte &lignes)
 
 QString Ligne_ADIF_Canal(QStringView ligne_log)
 {
+    const auto champ = [&](Champ colonnes) { return Lit_Rogne(ligne_log, colonnes); };
     Enregistrement_ADIF enregistrement;
-    enregistrement.Pose(u"call", Lit(ligne_log, lu::Ind));
-    enregistrement.Pose(u"name", Lit(ligne_log, lu::Prenom));
-    enregistrement.Pose(u"band", Bande_En_Metres(Lit_Rogne(ligne_log, lu::Bande)));
-    enregistrement.Pose(u"mode", Lit(ligne_log, lu::Mode));
-    enregistrement.Pose(u"qso_date", Date_ADIF(Lit(ligne_log, lu::Date)));
-    enregistrement.Pose(u"time_on", Heure_ADIF(Lit(ligne_log, lu::Heure)));
-    enregistrement.Pose(u"rst_rcvd", Lit(ligne_log, lu::RSTR));
-    enregistrement.Pose(u"rst_sent", Lit(ligne_log, lu::RSTE));
-    const QString commentaire = Lit_Rogne(ligne_log, lu::Ref).toString() + u' ' + Lit_Rogne(ligne_log, lu::Nom);
-    enregistrement.Pose(u"comment", commentaire);
+    enregistrement.Pose(u"call", champ(lu::Ind));
+    enregistrement.Pose(u"name", champ(lu::Prenom));
+    enregistrement.Pose(u"band", Metres(bandes_d_un_diplome, champ(lu::Bande)));
+    enregistrement.Pose(u"mode", champ(lu::Mode));
+    enregistrement.Pose(u"qso_date", Rogne(Date_ADIF(Lit(ligne_log, lu::Date))));
+    enregistrement.Pose(u"time_on", Rogne(Heure_ADIF(Lit(ligne_log, lu::Heure))));
+    enregistrement.Pose(u"rst_rcvd", champ(lu::RSTR));
+    enregistrement.Pose(u"rst_sent", champ(lu::RSTE));
+    enregistrement.Pose(u"comment", Rogne(QString(champ(lu::Ref) + u' ' + champ(lu::Nom))));
     return enregistrement.Termine();
 }
 
@@ -67,7 +68,7 @@ void ADIF_Challenge(Poste &poste, const Etat_Challenge &etat, QStringView palier
     const QString nom = poste.etat.station.indicatif + u" Diplome " + etat.entete + u' ' + palier + u".adi";
     const Lignes_Texte lignes = Lit_Sources(poste, sources_du_canal).log;
     const std::map<QStringView, QStringView> premieres = Premieres_Lignes(lignes);
-    QString texte = Entete_ADIF(poste.etat, sources_du_canal.diplome);
+    QString texte = Entete_De_Diplome(poste.etat, sources_du_canal.diplome);
     for (const QString &rang : etat.rangs)
         if (const auto place = premieres.find(Lit_Rogne(rang, ref_du_rang)); place != premieres.end())
             texte += Ligne_ADIF_Canal(place->second) + fin_de_ligne;

@@ -1,5 +1,6 @@
 #include "outils/Export_ADIF.h"
 
+#include "adif/Enregistrement_ADIF.h"
 #include "log/Ecran_Principal.h"
 #include "log/Etat_Commun.h"
 #include "log/Poste.h"
@@ -8,35 +9,14 @@
 #include "plateforme/Boites.h"
 #include "plateforme/Dossier.h"
 
-#include <array>
-
 using namespace Qt::StringLiterals;
-
-namespace {
-
-QString Entete(const QString &station, QStringView code)
-{
-    const std::array<QString, 6> lignes = {
-        u"Exportation du log de la station "_s + station + u' ' + code + u" au format ADIF",
-        QString(),
-        u"Vorlain_"_s + code + u" - carnet des diplômes d'activité français",
-        QString(),
-        QString(),
-        u"<eoh>"_s,
-    };
-    QString entete;
-    for (const QString &ligne : lignes)
-        entete += ligne + fin_de_ligne;
-    return entete;
-}
-
-} // namespace
 
 void Export_ADIF(Poste &poste)
 {
     const QStringView code = Code(poste.etat.station.diplome);
     const QString nom = poste.etat.station.indicatif + u'_' + code + u".adi";
-    QString texte = Entete(poste.ecran.I_Station(), code);
+    QString texte = Entete_ADIF(Titre_ADIF(poste.ecran.I_Station() + u' ' + code),
+                                u"Vorlain_"_s + code + u" - carnet des diplômes d'activité français");
     const Lignes_Texte lignes = poste.dossier.Lit_Lignes(Nom_Log_ADIF(poste.etat) + u".log");
     for (const QStringView ligne : lignes)
         texte += ADIF_SP(ligne) + fin_de_ligne;

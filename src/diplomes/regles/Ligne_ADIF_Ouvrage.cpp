@@ -1,6 +1,7 @@
 #include "diplomes/regles/Ligne_ADIF_Ouvrage.h"
 
-#include "diplomes/regles/Enregistrement_ADIF.h"
+#include "adif/Bandes_En_Metres.h"
+#include "adif/Enregistrement_ADIF.h"
 #include "log/Ligne_Log.h"
 
 namespace diplomes {
@@ -18,14 +19,14 @@ QString Ligne_ADIF_Ouvrage(QStringView ligne_log)
     enregistrement.Pose(u"state", champ(dpt_et_blancs));
     enregistrement.Pose(u"sig", ref);
     enregistrement.Pose(u"name", champ(col::Prenom));
-    enregistrement.Pose(u"band", Bande_En_Metres(champ(col::Bande)));
+    enregistrement.Pose(u"band", Metres(bandes_d_un_diplome, champ(col::Bande)));
     enregistrement.Pose(u"mode", champ(col::Mode));
-    enregistrement.Pose(u"qso_date", Date_ADIF(Lit(ligne_log, col::Date)));
-    enregistrement.Pose(u"time_on", Heure_ADIF(Lit(ligne_log, col::Heure)));
+    enregistrement.Pose(u"qso_date", Rogne(Date_ADIF(Lit(ligne_log, col::Date))));
+    enregistrement.Pose(u"time_on", Rogne(Heure_ADIF(Lit(ligne_log, col::Heure))));
     enregistrement.Pose(u"rst_rcvd", champ(col::RSTR));
     enregistrement.Pose(u"rst_sent", champ(col::RSTE));
     // The length of the reference and not the reference: it stands so.
-    enregistrement.Pose(u"sig_info", QString(QString::number(ref.size()) + u' ' + champ(col::Nom)));
+    enregistrement.Pose(u"sig_info", Rogne(QString(QString::number(ref.size()) + u' ' + champ(col::Nom))));
     return enregistrement.Termine();
 }
 
