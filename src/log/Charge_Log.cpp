@@ -10,37 +10,46 @@
 #include "plateforme/Dossier.h"
 #include "plateforme/Tolere.h"
 
+#include <utility>
+
 using namespace Qt::StringLiterals;
 
-namespace {
-
-/// The lines of a log. A last one that was cut off is mended on the disk too; where that cannot be done it is shown as
-/// it is, for another time.
-Lignes_Texte Lit_Log(Poste &poste, const QString &nom)
+QString Lit_Log(Poste &poste, const QString &nom)
 {
-    const QString texte = poste.dossier.Lit(nom);
+    QString texte = poste.dossier.Lit(nom);
     const std::optional<Fin_Reparee> fin = Repare_La_Fin(texte);
     if (!fin || !Tolere([&] { poste.dossier.Remplace(nom, fin->texte, u"Temporaire.txt"_s); }))
-        return Lignes_Texte(texte);
+        return texte;
     poste.boites.Message(QString(fin->message).replace(u"%1"_s, nom));
-    return Lignes_Texte(fin->texte);
+    return fin->texte;
 }
 
-} // namespace
+Log_A_Jour Met_A_Jour(const Dossier &dossier, std::optional<Diplome> diplome, Lignes_Texte lignes)
+{
+    const auto conversion = [&](QStringView ancienne) { return Ancienne_Ref_TDC(dossier, ancienne); };
+    const std::optional<Log_Migre> migre = Migre(diplome, lignes, conversion);
+    if (!migre)
+        return {.lignes = std::move(lignes), .a_reecrire = std::nullopt};
+    return {.lignes = Lignes_Texte(migre->texte),
+            .a_reecrire = migre->a_reecrire ? std::optional(migre->texte) : std::nullopt};
+}
+
+void Annonce_Mise_A_Jour(Poste &poste, std::optional<Diplome> diplome)
+{
+    if (diplome == Diplome::FFF)
+        poste.boites.Message(u"Mettez à jour la liste FFF (Outils puis Mise à jour des références FFF)"_s);
+}
 
 void Charge_Log(Poste &poste, std::optional<Diplome> diplome)
 {
     poste.ecran.Remplit_Liste({});
     const QString nom = poste.etat.station.Log(diplome);
-    Lignes_Texte lignes = Lit_Log(poste, nom);
-    const auto conversion = [&](QStringView ancienne) { return Ancienne_Ref_TDC(poste.dossier, ancienne); };
-    const std::optional<Log_Migre> migre = Migre(diplome, lignes, conversion);
-    const bool a_reecrire = migre && migre->a_reecrire;
+    Log_A_Jour log = Met_A_Jour(poste.dossier, diplome, Lignes_Texte(Lit_Log(poste, nom)));
     // Shown before it is written: a disk that refuses leaves the log on screen at start.
-    poste.ecran.Remplit_Liste(migre ? Lignes_Texte(migre->texte) : std::move(lignes));
-    if (a_reecrire)
-        poste.dossier.Remplace(nom, migre->texte, u"Temporaire.txt"_s);
-    if (a_reecrire && diplome == Diplome::FFF)
-        poste.boites.Message(u"Mettez à jour la liste FFF (Outils puis Mise à jour des références FFF)"_s);
+    poste.ecran.Remplit_Liste(std::move(log.lignes));
+    if (log.a_reecrire) {
+        poste.dossier.Remplace(nom, *log.a_reecrire, u"Temporaire.txt"_s);
+        Annonce_Mise_A_Jour(poste, diplome);
+    }
     poste.ecran.Active_Ind_A();
 }

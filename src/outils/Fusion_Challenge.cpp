@@ -1,10 +1,10 @@
 #include "outils/Fusion_Challenge.h"
 
-#include "log/Charge_Log.h"
 #include "log/Ecran_Principal.h"
 #include "log/Etat_Commun.h"
 #include "log/Ordre.h"
 #include "log/Poste.h"
+#include "outils/Reecrit_Log.h"
 #include "outils/Supprime_Doubles.h"
 #include "outils/Trie_Log.h"
 #include "plateforme/Dossier.h"
@@ -47,10 +47,9 @@ QString Texte_En_Ordre(std::vector<QString> lignes)
 
 void Acheve_Fusion(Poste &poste, const QString &nom, std::vector<QString> lignes)
 {
-    poste.dossier.Remplace(nom, Texte_En_Ordre(std::move(lignes)), u"Temporaire.txt"_s);
-    Charge_Log(poste, poste.etat.station.diplome);
-    Supprime_Doubles(poste);
-    Trie_Log(poste);
+    const Log_Compose log = Compose_Log(poste, Texte_En_Ordre(std::move(lignes)), {Texte_Sans_Doubles, Texte_Trie});
+    poste.dossier.Remplace(nom, log.texte, u"Temporaire.txt"_s);
+    Montre_Log(poste, log);
     poste.ecran.Efface_Saisie();
     poste.ecran.Selectionne_Derniere();
 }

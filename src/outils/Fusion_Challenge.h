@@ -32,5 +32,6 @@ QStringView Annee_Courte(const Poste &poste, Diplome challenge);
 /// Lines as the sorted work list keeps them, each with its CR LF.
 QString Texte_En_Ordre(std::vector<QString> lignes);
 
-/// Makes `lignes` the whole of a challenge log, removes its doubles, sorts it and puts the entry screen to rest.
+/// Makes `lignes`, without doubles and sorted, the whole of the current challenge log and puts the entry screen to
+/// rest.
 void Acheve_Fusion(Poste &poste, const QString &nom, std::vector<QString> lignes);

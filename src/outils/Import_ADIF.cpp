@@ -7,6 +7,7 @@
 #include "outils/Enregistrements_ADIF.h"
 #include "outils/Mise_De_Cote.h"
 #include "outils/Nom_Log_ADIF.h"
+#include "outils/Reecrit_Log.h"
 #include "outils/Supprime_Doubles.h"
 #include "outils/Trie_Log.h"
 #include "plateforme/Boites.h"
@@ -69,13 +70,54 @@ Bilan Lit_Fichier_ADIF(Poste &poste, const Lignes_Texte &lignes, const Choix_Imp
     return bilan;
 }
 
-/// A log that is absent comes into being whole or not at all: a .bak is known by having no log beside it.
-void Range(Poste &poste, const QString &nom, const QString &lignes)
+/// The log as it is, empty if it is absent, with the lines behind it.
+QString Texte_Avec(const Dossier &dossier, const QString &log, const QString &lignes)
 {
-    if (!poste.dossier.Existe(nom))
-        poste.dossier.Remplace(nom, lignes.isEmpty() ? QString() : lignes + fin_de_ligne, u"Temporaire.txt"_s);
-    else if (!lignes.isEmpty())
-        poste.dossier.Ajoute(nom, lignes);
+    QString texte = dossier.Existe(log) ? dossier.Lit(log) : QString();
+    if (lignes.isEmpty())
+        return texte;
+    if (!texte.isEmpty() && !texte.endsWith(u'\n'))
+        texte += fin_de_ligne;
+    return texte + lignes + fin_de_ligne;
+}
+
+/// Whether the log of the import is put in order before it is written. That of Ch_DMF is not the one that is shown,
+/// and a .bak that is not there, as for Ch_DFCF, ends the import with its lines as they came.
+bool Se_Met_En_Ordre(const Poste &poste, const Choix_Import &choix, const QString &nom)
+{
+    return nom + u".log" == poste.etat.station.Log_Courant() && (choix.ajout || poste.dossier.Existe(nom + u".bak"));
+}
+
+/// Written whole or not at all, once: a .bak is known by having no log beside it.
+void Ecrit(Poste &poste, const QString &log, QStringView texte)
+{
+    poste.dossier.Remplace(log, texte, u"Temporaire.txt"_s);
+}
+
+void Acheve_Import(Poste &poste, const Choix_Import &choix, Ecran_Import &ecran, const QString &lignes)
+{
+    const QString nom = Nom_Log_ADIF(poste.etat);
+    const bool en_ordre = Se_Met_En_Ordre(poste, choix, nom);
+    Log_Compose log{.texte = Texte_Avec(poste.dossier, nom + u".log", lignes)};
+    if (en_ordre)
+        log = Compose_Log(poste, log.texte, {Texte_Sans_Doubles, Texte_Trie});
+    Ecrit(poste, nom + u".log", log.texte);
+    if (!choix.ajout)
+        Oublie_Le_Bak(poste);
+    ecran.Ferme();
+    if (!en_ordre)
+        return Reecrit_Log(poste, {Texte_Sans_Doubles, Texte_Trie});
+    Montre_Log(poste, log);
+    poste.ecran.Selectionne_Derniere();
+}
+
+/// The lines before the record that ended the import stay.
+[[noreturn]] void Echoue(Poste &poste, const Bilan &bilan)
+{
+    const QString log = Nom_Log_ADIF(poste.etat) + u".log";
+    if (!bilan.lignes.isEmpty())
+        Ecrit(poste, log, Texte_Avec(poste.dossier, log, bilan.lignes));
+    throw *bilan.echec;
 }
 
 } // namespace
@@ -109,7 +151,6 @@ void Importe(Poste &poste, const Choix_Import &choix, Ecran_Import &ecran)
 
 void Import_ADIF(Poste &poste, const Choix_Import &choix, Ecran_Import &ecran)
 {
-    const std::optional<Diplome> diplome = poste.etat.station.diplome;
     const std::optional<QString> choisi = ecran.Choisit_Fichier();
     if (!choisi)
         return Retablit_Un_Import_Coupe(poste);
@@ -119,22 +160,14 @@ void Import_ADIF(Poste &poste, const Choix_Import &choix, Ecran_Import &ecran)
         Remet_Le_Log(poste);
         return;
     }
-    if (const std::optional<QString> refus = Refus_Nom(chemin, Code(diplome), choix))
+    if (const std::optional<QString> refus = Refus_Nom(chemin, Code(poste.etat.station.diplome), choix))
         return Refuse(poste, *refus);
     const Lignes_Texte lignes(Majuscules_1252(poste.dossier.Lit(chemin)));
     if (const std::optional<QString> refus = Refus_Contenu(lignes))
         return Refuse(poste, *refus);
 
     const Bilan bilan = Lit_Fichier_ADIF(poste, lignes, choix, ecran);
-    if (!bilan.echec || !bilan.lignes.isEmpty())
-        Range(poste, Nom_Log_ADIF(poste.etat) + u".log", bilan.lignes);
     if (bilan.echec)
-        throw *bilan.echec;
-    if (!choix.ajout)
-        Oublie_Le_Bak(poste);
-    ecran.Ferme();
-    Charge_Log(poste, diplome);
-    Supprime_Doubles(poste);
-    Trie_Log(poste);
-    poste.ecran.Selectionne_Derniere();
+        Echoue(poste, bilan);
+    Acheve_Import(poste, choix, ecran, bilan.lignes);
 }

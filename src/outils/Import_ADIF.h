@@ -27,7 +27,7 @@ void Demande_Import(Poste &poste);
 /// its log, left by an import that was cut off, is put back first.
 void Importe(Poste &poste, const Choix_Import &choix, Ecran_Import &ecran);
 
-/// Writes the records of a chosen file to the log of the current award, then removes its doubles and sorts it. A file
+/// Writes the log of the current award once, with the records of a chosen file, without doubles and sorted. A file
 /// that cannot be taken is refused in words and the .bak put back, which fails if there is none. Throws
 /// Erreur_Execution at a record that cannot become a line; the lines before it are in the log then, and the .bak stays.
 void Import_ADIF(Poste &poste, const Choix_Import &choix, Ecran_Import &ecran);
