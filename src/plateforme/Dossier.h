@@ -7,6 +7,23 @@
 #include <QString>
 #include <QStringView>
 
+#include <vector>
+
+/// A file as its folder lists it.
+struct Fichier_Present {
+    QString nom;
+    qint64 taille = 0; ///< bytes
+};
+
+/// What becomes of a file after it was copied: one that another file replaces may share its bytes with the copy.
+enum class Avenir { Remplace, Modifie };
+
+enum class Issue_Copie {
+    Faite,
+    Nom_Pris,  ///< the target exists, it was left alone
+    Sans_Objet ///< there is no file to copy
+};
+
 /// The files of the program: Windows-1252 text with CR LF. A name is taken in Repertoire_Appli, unless it is a full
 /// path. Every operation throws Erreur_Execution, naming the file, when the disk refuses it; the file is then what it
 /// was before.
@@ -40,4 +57,12 @@ public:
     virtual void Supprime(const QString &nom) = 0;
     /// Copies bytes as they are; the copy is written beside its target and renamed over it.
     virtual void Copie(const QString &source, const QString &cible) = 0;
+
+    /// The files of a folder, in no order; none if it is absent.
+    [[nodiscard]] virtual std::vector<Fichier_Present> Fichiers(const QString &repertoire) const = 0;
+    /// Keeps the bytes of a file under a name that is free, in a folder that is made if it is absent. The copy is
+    /// whole and synced, or not there.
+    virtual Issue_Copie Garde(const QString &source, const QString &cible, Avenir avenir) = 0;
+    /// The replacement that a copy was kept for failed: a copy that shares its bytes with a file that lives on goes.
+    virtual void Separe(const QString &copie) = 0;
 };

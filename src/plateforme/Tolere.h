@@ -20,14 +20,22 @@ bool Tolere(Etape &&etape)
     }
 }
 
-/// The same, where the user is to be told in the words of the operation: gives the text of the failure.
+/// The same, where the caller decides by the failure what comes next.
 template <typename Etape>
-std::optional<QString> Empechement(Etape &&etape)
+std::optional<Erreur_Execution> Echec_De(Etape &&etape)
 {
     try {
         std::forward<Etape>(etape)();
         return std::nullopt;
     } catch (const Erreur_Execution &erreur) {
-        return erreur.Texte();
+        return erreur;
     }
+}
+
+/// The same, where the user is to be told in the words of the operation: gives the text of the failure.
+template <typename Etape>
+std::optional<QString> Empechement(Etape &&etape)
+{
+    const std::optional<Erreur_Execution> echec = Echec_De(std::forward<Etape>(etape));
+    return echec ? std::optional(echec->Texte()) : std::nullopt;
 }

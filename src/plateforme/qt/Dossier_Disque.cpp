@@ -2,6 +2,7 @@
 
 #include "plateforme/Erreur_Execution.h"
 #include "plateforme/Windows_1252.h"
+#include "plateforme/qt/Copie_A_Part.h"
 #include "plateforme/qt/Fichier_Sur.h"
 
 #include <QDir>
@@ -79,4 +80,19 @@ void Dossier_Disque::Supprime(const QString &nom)
 void Dossier_Disque::Copie(const QString &source, const QString &cible)
 {
     Remplace_Fichier(Chemin(cible), Lit_Fichier(Chemin(source)), cible + u".tmp");
+}
+
+std::vector<Fichier_Present> Dossier_Disque::Fichiers(const QString &repertoire) const
+{
+    return Fichiers_Du_Repertoire(Chemin(repertoire));
+}
+
+Issue_Copie Dossier_Disque::Garde(const QString &source, const QString &cible, Avenir avenir)
+{
+    return Garde_Fichier(Chemin(source), Chemin(cible), avenir);
+}
+
+void Dossier_Disque::Separe(const QString &copie)
+{
+    Separe_Fichier(Chemin(copie));
 }

@@ -17,6 +17,9 @@ public:
     void Cree_Si_Absent(const QString &nom) override;
     void Supprime(const QString &nom) override;
     void Copie(const QString &source, const QString &cible) override;
+    [[nodiscard]] std::vector<Fichier_Present> Fichiers(const QString &repertoire) const override;
+    Issue_Copie Garde(const QString &source, const QString &cible, Avenir avenir) override;
+    void Separe(const QString &copie) override;
 
 private:
     [[nodiscard]] QString Chemin(const QString &nom) const;

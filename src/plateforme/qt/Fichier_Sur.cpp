@@ -67,16 +67,6 @@ void Exige_Remplacable(const Cible &cible, const QString &nom)
         throw Erreur_Systeme(nom, errno);
 }
 
-/// Some file systems refuse to sync a folder; the rename is then as safe as they make it.
-void Synchronise_Dossier(const QString &chemin)
-{
-    const int numero = Descripteur::Ouvre(QFileInfo(chemin).absolutePath(), O_RDONLY | O_DIRECTORY);
-    if (numero < 0)
-        return;
-    Sans_Interruption([&] { return ::fsync(numero); });
-    ::close(numero);
-}
-
 /// Opens a log for the append; `nouveau` if it was made for it.
 struct Ouverture_Ajout {
     int numero;
@@ -113,6 +103,16 @@ bool Reprend(const Descripteur &fichier, off_t taille)
 }
 
 } // namespace
+
+/// Some file systems refuse to sync a folder; the rename is then as safe as they make it.
+void Synchronise_Dossier(const QString &chemin)
+{
+    const int numero = Descripteur::Ouvre(QFileInfo(chemin).absolutePath(), O_RDONLY | O_DIRECTORY);
+    if (numero < 0)
+        return;
+    Sans_Interruption([&] { return ::fsync(numero); });
+    ::close(numero);
+}
 
 void Remplace_Fichier(const QString &cible, QByteArrayView octets, const QString &radical, mode_t droits)
 {
@@ -152,6 +152,9 @@ void Ajoute_Au_Fichier(const QString &chemin, QByteArrayView ligne)
     if (Finit_Sans_Ligne(fichier, chemin, taille))
         octets += "\r\n";
     octets += ligne;
+    // What bears a second name is a copy that must stay as it is.
+    if (fichier.Etat().st_nlink > 1)
+        return Remplace_Fichier(chemin, QByteArray(fichier.Lit_Tout() + octets), chemin + u".tmp");
     try {
         fichier.Ecrit(octets);
         fichier.Synchronise();

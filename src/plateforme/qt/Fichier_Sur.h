@@ -18,7 +18,7 @@ void Remplace_Fichier(const QString &cible, QByteArrayView octets, const QString
 void Ecrit_Document(const QString &cible, QByteArrayView octets);
 
 /// One write of `ligne` (which holds its CR LF) at the end, synced; CR LF first if the last line has none.
-/// What the file held before is never shortened.
+/// What the file held before is never shortened. A file with a second name is replaced: only this one gets the line.
 void Ajoute_Au_Fichier(const QString &chemin, QByteArrayView ligne);
 
 /// An empty file where none stands.
@@ -30,6 +30,9 @@ QByteArray Lit_Fichier(const QString &chemin);
 
 /// False if the system says that nothing bears that name; any other answer than yes or no is a failure.
 bool Existe_Fichier(const QString &chemin);
+
+/// Makes lasting what was made, renamed or removed in the folder of `chemin`, as far as its file system can.
+void Synchronise_Dossier(const QString &chemin);
 
 /// The folder and those above it, where they are absent.
 void Cree_Repertoire(const QString &chemin);
