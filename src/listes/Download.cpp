@@ -1,5 +1,6 @@
 #include "listes/Download.h"
 
+#include "log/Garde_Copie.h"
 #include "log/Poste.h"
 #include "plateforme/Boites.h"
 #include "plateforme/Dossier.h"
@@ -7,7 +8,7 @@
 
 using namespace Qt::StringLiterals;
 
-void Download(Poste &poste, const QString &adresse, const QString &fichier)
+void Download(Poste &poste, const QString &adresse, const QString &fichier, Sorte_Fichier sorte)
 {
     QByteArray octets = adresse.isEmpty() ? QByteArray() : poste.telechargement.Corps(adresse);
     if (octets.isEmpty()) {
@@ -16,5 +17,9 @@ void Download(Poste &poste, const QString &adresse, const QString &fichier)
     }
     if (poste.dossier.Existe(fichier))
         octets += poste.dossier.Octets(fichier).mid(octets.size());
-    poste.dossier.Remplace_Octets(fichier, octets, fichier + u".tmp");
+    const auto remplace = [&] { poste.dossier.Remplace_Octets(fichier, octets, fichier + u".tmp"); };
+    if (sorte == Sorte_Fichier::Liste)
+        Remplace_En_Gardant(poste, Outil::Liste, fichier, remplace);
+    else
+        remplace();
 }

@@ -60,7 +60,9 @@ std::span<const Maj> Majs_Liste()
 
 void Maj_Liste(Poste &poste, const Maj &maj)
 {
-    Tolere([&] { Download(poste, Adresse_Serveur(poste, maj.serveur, maj.chemin), maj.fichier.toString()); });
+    Tolere([&] {
+        Download(poste, Adresse_Serveur(poste, maj.serveur, maj.chemin), maj.fichier.toString(), Sorte_Fichier::Liste);
+    });
     const QString retenue = Lit_Station(poste, maj.cle, maj.defaut);
     const QString ligne = Premiere_Ligne(poste.dossier, maj.fichier);
     const QString revision = maj.revision(ligne).toString();

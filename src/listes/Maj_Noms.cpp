@@ -5,6 +5,7 @@
 #include "log/Charge_Log.h"
 #include "log/Ecran_Principal.h"
 #include "log/Etat_Commun.h"
+#include "log/Garde_Copie.h"
 #include "log/Poste.h"
 #include "plateforme/Boites.h"
 #include "plateforme/Dossier.h"
@@ -121,7 +122,10 @@ void Maj_Noms(Poste &poste, const Maj_Nom &maj)
     }
     const QString nom = poste.etat.station.Log(maj.diplome);
     Index_Liste liste(*maj.recherche, poste.dossier);
-    poste.dossier.Remplace(nom, Texte_Renomme(poste.dossier.Lit_Lignes(nom), maj, liste), u"Temporaire1.log"_s);
+    const QString texte = Texte_Renomme(poste.dossier.Lit_Lignes(nom), maj, liste);
+    if (!Remplace_En_Gardant(poste, Outil::Noms, nom,
+                             [&] { poste.dossier.Remplace(nom, texte, u"Temporaire1.log"_s); }))
+        return;
     Charge_Log(poste, maj.diplome);
     poste.ecran.Selectionne_Derniere();
     poste.boites.Message(maj.cloture.toString());

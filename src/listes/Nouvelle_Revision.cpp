@@ -34,7 +34,9 @@ std::optional<QString> Derniere_Ligne(const Dossier &dossier, const QString &fic
 void Nouvelle_Revision(Poste &poste)
 {
     const QString fichier = u"New_Version.txt"_s;
-    Tolere([&] { Download(poste, Adresse_Serveur(poste, u"Programme", u"/Vorlain/Version.txt"), fichier); });
+    Tolere([&] {
+        Download(poste, Adresse_Serveur(poste, u"Programme", u"/Vorlain/Version.txt"), fichier, Sorte_Fichier::Version);
+    });
     const QString presente = Lit_General(poste, cles::revision, u"V1.0.0");
     const std::optional<QString> publiee = Derniere_Ligne(poste.dossier, fichier);
     if (!publiee)

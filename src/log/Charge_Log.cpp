@@ -4,6 +4,7 @@
 #include "log/Ecran_Principal.h"
 #include "log/Etat_Commun.h"
 #include "log/Fin_Coupee.h"
+#include "log/Garde_Copie.h"
 #include "log/Migrations.h"
 #include "log/Poste.h"
 #include "plateforme/Boites.h"
@@ -47,9 +48,8 @@ void Charge_Log(Poste &poste, std::optional<Diplome> diplome)
     Log_A_Jour log = Met_A_Jour(poste.dossier, diplome, Lignes_Texte(Lit_Log(poste, nom)));
     // Shown before it is written: a disk that refuses leaves the log on screen at start.
     poste.ecran.Remplit_Liste(std::move(log.lignes));
-    if (log.a_reecrire) {
-        poste.dossier.Remplace(nom, *log.a_reecrire, u"Temporaire.txt"_s);
+    const auto reecrit = [&] { poste.dossier.Remplace(nom, *log.a_reecrire, u"Temporaire.txt"_s); };
+    if (log.a_reecrire && Remplace_En_Gardant(poste, Outil::Migration, nom, reecrit))
         Annonce_Mise_A_Jour(poste, diplome);
-    }
     poste.ecran.Active_Ind_A();
 }

@@ -3,6 +3,7 @@
 #include "log/Charge_Log.h"
 #include "log/Ecran_Principal.h"
 #include "log/Etat_Commun.h"
+#include "log/Garde_Copie.h"
 #include "log/Ligne_Log.h"
 #include "log/Moment.h"
 #include "log/Poste.h"
@@ -50,6 +51,11 @@ std::size_t Place_Dans_Le_Temps(const Lignes_Texte &lignes, const std::optional<
     return static_cast<std::size_t>(place - lignes.begin());
 }
 
+bool Reecrit(Poste &poste, Outil outil, const QString &nom, const QString &texte, const QString &temporaire)
+{
+    return Remplace_En_Gardant(poste, outil, nom, [&] { poste.dossier.Remplace(nom, texte, temporaire); });
+}
+
 void Recharge(Poste &poste, std::optional<Diplome> diplome)
 {
     Charge_Log(poste, diplome);
@@ -78,35 +84,45 @@ QString Texte_Insere(const Lignes_Texte &lignes, QStringView nouvelle)
     return Assemble(lignes, Place_Dans_Le_Temps(lignes, Moment(nouvelle)), nouvelle, false);
 }
 
-void Ajoute_Ligne(Poste &poste, QStringView ligne, Diplome diplome)
+bool Ajoute_Ligne(Poste &poste, QStringView ligne, Diplome diplome)
 {
-    poste.dossier.Ajoute(poste.etat.station.Log(diplome), ligne);
+    const QString nom = poste.etat.station.Log(diplome);
+    if (!Garde_Copie(poste, Outil::Saisie, nom))
+        return false;
+    poste.dossier.Ajoute(nom, ligne);
     Recharge(poste, diplome);
+    return true;
 }
 
-void Remplace_Ligne(Poste &poste, QStringView nouvelle, QStringView ancienne)
+bool Remplace_Ligne(Poste &poste, QStringView nouvelle, QStringView ancienne)
 {
     const QString nom = poste.etat.station.Log_Courant();
     const Lignes_Texte lignes = poste.dossier.Lit_Lignes(nom);
-    poste.dossier.Remplace(nom, Texte_Remplace(lignes, nouvelle, ancienne), u"Temporaire.txt"_s);
+    if (!Reecrit(poste, Outil::Modification, nom, Texte_Remplace(lignes, nouvelle, ancienne), u"Temporaire.txt"_s))
+        return false;
     Recharge(poste, poste.etat.station.diplome);
     if (!Est_Dans_Le_Log(lignes, ancienne))
         poste.boites.Message(u"L'ancien QSO n'est plus dans le log, le QSO modifié a été ajouté à la fin"_s);
+    return true;
 }
 
-void Supprime_Ligne(Poste &poste, QStringView ligne, Diplome diplome)
+bool Supprime_Ligne(Poste &poste, QStringView ligne, Diplome diplome)
 {
     const QString nom = poste.etat.station.Log(diplome);
     const Lignes_Texte lignes = poste.dossier.Lit_Lignes(nom);
-    poste.dossier.Remplace(nom, Texte_Supprime(lignes, ligne), u"Temporaire.txt"_s);
+    if (!Reecrit(poste, Outil::Suppression, nom, Texte_Supprime(lignes, ligne), u"Temporaire.txt"_s))
+        return false;
     Recharge(poste, diplome);
     if (!Est_Dans_Le_Log(lignes, ligne))
         poste.boites.Message(u"Ce QSO n'est plus dans le log, rien n'a été supprimé"_s);
+    return true;
 }
 
-void Insere_Ligne(Poste &poste, QStringView ligne)
+bool Insere_Ligne(Poste &poste, QStringView ligne)
 {
     const QString nom = poste.etat.station.Log_Courant();
-    poste.dossier.Remplace(nom, Texte_Insere(poste.dossier.Lit_Lignes(nom), ligne), u"Temporaire6.txt"_s);
+    if (!Reecrit(poste, Outil::Saisie, nom, Texte_Insere(poste.dossier.Lit_Lignes(nom), ligne), u"Temporaire6.txt"_s))
+        return false;
     Recharge(poste, poste.etat.station.diplome);
+    return true;
 }

@@ -21,13 +21,14 @@ QString Texte_Supprime(const Lignes_Texte &lignes, QStringView ligne);
 QString Texte_Insere(const Lignes_Texte &lignes, QStringView nouvelle);
 
 // The operations. A line is a whole Ligne_Log. Each ends by reloading Liste_QSO and selecting its last entry, and
-// throws Erreur_Execution with the log as it was if the disk refuses.
+// throws Erreur_Execution with the log as it was if the disk refuses. Before the first change of a day a copy of the
+// log is kept; false if that failed and the operator gave up, with nothing changed.
 
 /// Appends to the log of `diplome`.
-void Ajoute_Ligne(Poste &poste, QStringView ligne, Diplome diplome);
+bool Ajoute_Ligne(Poste &poste, QStringView ligne, Diplome diplome);
 /// In the log of the current award: a QSO whose old line is gone is stored all the same, and the operator is told.
-void Remplace_Ligne(Poste &poste, QStringView nouvelle, QStringView ancienne);
+bool Remplace_Ligne(Poste &poste, QStringView nouvelle, QStringView ancienne);
 /// Removes from the log of `diplome`; the operator is told of a line that is gone.
-void Supprime_Ligne(Poste &poste, QStringView ligne, Diplome diplome);
+bool Supprime_Ligne(Poste &poste, QStringView ligne, Diplome diplome);
 /// In the log of the current award, which is taken to be in order of time.
-void Insere_Ligne(Poste &poste, QStringView ligne);
+bool Insere_Ligne(Poste &poste, QStringView ligne);

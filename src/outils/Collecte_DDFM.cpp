@@ -4,6 +4,7 @@
 #include "log/Chemin_Log.h"
 #include "log/Ecran_Principal.h"
 #include "log/Etat_Commun.h"
+#include "log/Garde_Copie.h"
 #include "log/Ligne_Log.h"
 #include "log/Ordre.h"
 #include "log/Poste.h"
@@ -81,7 +82,8 @@ void Collecte_DDFM(Poste &poste)
     QString texte;
     for (const QString &ligne : Lignes_DDFM(logs))
         texte.append(ligne).append(fin_de_ligne);
-    poste.dossier.Remplace(Chemin_Log(indicatif, Diplome::DDFM), texte, u"Temporaire.txt"_s);
+    const QString nom = Chemin_Log(indicatif, Diplome::DDFM);
+    Remplace_En_Gardant(poste, Outil::Collecte, nom, [&] { poste.dossier.Remplace(nom, texte, u"Temporaire.txt"_s); });
     Charge_Log(poste, poste.etat.station.diplome);
     poste.ecran.Selectionne_Derniere();
 }

@@ -2,6 +2,7 @@
 
 #include "log/Ecran_Principal.h"
 #include "log/Etat_Commun.h"
+#include "log/Garde_Copie.h"
 #include "log/Ordre.h"
 #include "log/Poste.h"
 #include "outils/Reecrit_Log.h"
@@ -48,7 +49,9 @@ QString Texte_En_Ordre(std::vector<QString> lignes)
 void Acheve_Fusion(Poste &poste, const QString &nom, std::vector<QString> lignes)
 {
     const Log_Compose log = Compose_Log(poste, Texte_En_Ordre(std::move(lignes)), {Texte_Sans_Doubles, Texte_Trie});
-    poste.dossier.Remplace(nom, log.texte, u"Temporaire.txt"_s);
+    const auto remplace = [&] { poste.dossier.Remplace(nom, log.texte, u"Temporaire.txt"_s); };
+    if (!Remplace_En_Gardant(poste, Outil::Fusion, nom, remplace))
+        return;
     Montre_Log(poste, log);
     poste.ecran.Efface_Saisie();
     poste.ecran.Selectionne_Derniere();

@@ -3,6 +3,7 @@
 #include "log/Charge_Log.h"
 #include "log/Ecran_Principal.h"
 #include "log/Etat_Commun.h"
+#include "log/Garde_Copie.h"
 #include "log/Poste.h"
 #include "outils/Enregistrements_ADIF.h"
 #include "outils/Mise_De_Cote.h"
@@ -88,10 +89,22 @@ bool Se_Met_En_Ordre(const Poste &poste, const Choix_Import &choix, const QStrin
     return nom + u".log" == poste.etat.station.Log_Courant() && (choix.ajout || poste.dossier.Existe(nom + u".bak"));
 }
 
-/// Written whole or not at all, once: a .bak is known by having no log beside it.
-void Ecrit(Poste &poste, const QString &log, QStringView texte)
+/// Written whole or not at all, once: a .bak is known by having no log beside it. The log as it was, which may be that
+/// .bak, is kept; false if that failed and the operator gave up.
+bool Ecrit(Poste &poste, const QString &nom, QStringView texte)
 {
-    poste.dossier.Remplace(log, texte, u"Temporaire.txt"_s);
+    const QString log = nom + u".log";
+    return Remplace_En_Gardant(
+        poste, Outil::Import, log, [&] { poste.dossier.Remplace(log, texte, u"Temporaire.txt"_s); },
+        poste.dossier.Existe(log) ? log : nom + u".bak");
+}
+
+/// The log is as it was before the import.
+void Renonce(Poste &poste, const Choix_Import &choix)
+{
+    if (!choix.ajout)
+        Remet_Le_Log(poste);
+    Charge_Log(poste, poste.etat.station.diplome);
 }
 
 void Acheve_Import(Poste &poste, const Choix_Import &choix, Ecran_Import &ecran, const QString &lignes)
@@ -101,12 +114,13 @@ void Acheve_Import(Poste &poste, const Choix_Import &choix, Ecran_Import &ecran,
     Log_Compose log{.texte = Texte_Avec(poste.dossier, nom + u".log", lignes)};
     if (en_ordre)
         log = Compose_Log(poste, log.texte, {Texte_Sans_Doubles, Texte_Trie});
-    Ecrit(poste, nom + u".log", log.texte);
+    if (!Ecrit(poste, nom, log.texte))
+        return Renonce(poste, choix);
     if (!choix.ajout)
         Oublie_Le_Bak(poste);
     ecran.Ferme();
     if (!en_ordre)
-        return Reecrit_Log(poste, {Texte_Sans_Doubles, Texte_Trie});
+        return Reecrit_Log(poste, Outil::Import, {Texte_Sans_Doubles, Texte_Trie});
     Montre_Log(poste, log);
     poste.ecran.Selectionne_Derniere();
 }
@@ -114,9 +128,9 @@ void Acheve_Import(Poste &poste, const Choix_Import &choix, Ecran_Import &ecran,
 /// The lines before the record that ended the import stay.
 [[noreturn]] void Echoue(Poste &poste, const Bilan &bilan)
 {
-    const QString log = Nom_Log_ADIF(poste.etat) + u".log";
+    const QString nom = Nom_Log_ADIF(poste.etat);
     if (!bilan.lignes.isEmpty())
-        Ecrit(poste, log, Texte_Avec(poste.dossier, log, bilan.lignes));
+        Ecrit(poste, nom, Texte_Avec(poste.dossier, nom + u".log", bilan.lignes));
     throw *bilan.echec;
 }
 

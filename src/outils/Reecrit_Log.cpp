@@ -3,6 +3,7 @@
 #include "log/Charge_Log.h"
 #include "log/Ecran_Principal.h"
 #include "log/Etat_Commun.h"
+#include "log/Garde_Copie.h"
 #include "log/Poste.h"
 #include "plateforme/Dossier.h"
 
@@ -29,12 +30,15 @@ void Montre_Log(Poste &poste, const Log_Compose &log)
         Annonce_Mise_A_Jour(poste, poste.etat.station.diplome);
 }
 
-void Reecrit_Log(Poste &poste, std::initializer_list<Regle_De_Log> regles)
+void Reecrit_Log(Poste &poste, Outil outil, std::initializer_list<Regle_De_Log> regles)
 {
     const QString nom = poste.etat.station.Log_Courant();
     // The list may show what the log was an hour ago.
     const Log_Compose log = Compose_Log(poste, Lit_Log(poste, nom), regles);
-    poste.dossier.Remplace(nom, log.texte, u"Temporaire.txt"_s);
-    Montre_Log(poste, log);
+    const auto remplace = [&] { poste.dossier.Remplace(nom, log.texte, u"Temporaire.txt"_s); };
+    if (Remplace_En_Gardant(poste, outil, nom, remplace))
+        Montre_Log(poste, log);
+    else
+        Charge_Log(poste, poste.etat.station.diplome);
     poste.ecran.Selectionne_Derniere();
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "log/Copies.h"
 #include "plateforme/Lignes_Texte.h"
 
 #include <QString>
@@ -25,5 +26,6 @@ Log_Compose Compose_Log(const Poste &poste, QString texte, std::initializer_list
 void Montre_Log(Poste &poste, const Log_Compose &log);
 
 /// Rewrites the log of the current award, as it is on the disk, by the rules; then reloads Liste_QSO and selects its
-/// last entry. The log is written once: it is the old one or the new one, never absent.
-void Reecrit_Log(Poste &poste, std::initializer_list<Regle_De_Log> regles);
+/// last entry. The log is written once: it is the old one or the new one, never absent. The old one is kept under the
+/// name of `outil`; where it cannot be and the operator gives up, nothing is written.
+void Reecrit_Log(Poste &poste, Outil outil, std::initializer_list<Regle_De_Log> regles);

@@ -59,5 +59,5 @@ QString Texte_Sans_Doubles(const Lignes_Texte &lignes)
 
 void Supprime_Doubles(Poste &poste)
 {
-    Reecrit_Log(poste, {Texte_Sans_Doubles});
+    Reecrit_Log(poste, Outil::Doubles, {Texte_Sans_Doubles});
 }

@@ -68,5 +68,5 @@ QString Texte_Trie(const Lignes_Texte &lignes)
 
 void Trie_Log(Poste &poste)
 {
-    Reecrit_Log(poste, {Texte_Trie});
+    Reecrit_Log(poste, Outil::Tri, {Texte_Trie});
 }

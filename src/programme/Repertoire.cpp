@@ -1,5 +1,6 @@
 #include "programme/Repertoire.h"
 
+#include "log/Copies.h"
 #include "plateforme/Erreur_Execution.h"
 #include "plateforme/qt/Fichier_Sur.h"
 
@@ -39,8 +40,10 @@ Verrou Prend_Repertoire(const QString &repertoire)
 {
     Exige_Un_Repertoire(repertoire);
     Verrou verrou = Verrouille_Fichier(QDir(repertoire).filePath(u".vorlain.lock"_s));
-    if (verrou.L_Etat() == Verrou::Etat::Pris)
+    if (verrou.L_Etat() == Verrou::Etat::Pris) {
         Retire_Restes(repertoire);
+        Retire_Restes(QDir(repertoire).filePath(repertoire_copies.toString()));
+    }
     return verrou;
 }
 

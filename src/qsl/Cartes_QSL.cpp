@@ -3,6 +3,7 @@
 #include "log/Charge_Log.h"
 #include "log/Ecran_Principal.h"
 #include "log/Etat_Commun.h"
+#include "log/Garde_Copie.h"
 #include "log/Ligne_Log.h"
 #include "log/Poste.h"
 #include "log/Reglages_Station.h"
@@ -53,10 +54,13 @@ Cartes_Attendues Cherche_Cartes(Poste &poste, Diplome diplome, QStringView indic
     return {.log = log, .lignes = Sans_Carte(poste.dossier.Lit_Lignes(log), indicatif)};
 }
 
-void Marque_Cartes(Poste &poste, const QString &log, const std::vector<QString> &cochees)
+bool Marque_Cartes(Poste &poste, const QString &log, const std::vector<QString> &cochees)
 {
     const Lignes_Texte lignes = poste.dossier.Lit_Lignes(log);
-    poste.dossier.Remplace(log, Texte_Marque(lignes, cochees), u"Temporaire_QSL.txt"_s);
+    const auto marque = [&] { poste.dossier.Remplace(log, Texte_Marque(lignes, cochees), u"Temporaire_QSL.txt"_s); };
+    if (!Remplace_En_Gardant(poste, Outil::QSL, log, marque))
+        return false;
     Charge_Log(poste, poste.etat.station.diplome);
     poste.ecran.Selectionne_Derniere();
+    return true;
 }

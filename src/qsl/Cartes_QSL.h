@@ -28,5 +28,6 @@ struct Cartes_Attendues {
 Cartes_Attendues Cherche_Cartes(Poste &poste, Diplome diplome, QStringView indicatif);
 
 /// Marks the ticked lines in `log` as it is on the disk now, so that a QSO stored since the search is kept. Reloads the
-/// current award, of which the log may be another, and selects its last QSO.
-void Marque_Cartes(Poste &poste, const QString &log, const std::vector<QString> &cochees);
+/// current award, of which the log may be another, and selects its last QSO. False, with nothing marked, if no copy of
+/// the log could be kept and the operator gave up.
+bool Marque_Cartes(Poste &poste, const QString &log, const std::vector<QString> &cochees);

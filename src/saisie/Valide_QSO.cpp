@@ -122,14 +122,13 @@ QString Compose(Vue_Saisie &vue)
                               .qsl = vue.QSL_Coche() ? qsl_tenue.toString() : u" "_s});
 }
 
-void Range(Poste &poste, const Vue_Saisie &vue, const QString &ligne)
+bool Range(Poste &poste, const Vue_Saisie &vue, const QString &ligne)
 {
     if (poste.etat.qso_affiche)
-        Remplace_Ligne(poste, ligne, Ligne_Log_Affichee(poste.etat.ligne_selectionnee));
-    else if (!poste.etat.saisie_differee)
-        Ajoute_Ligne(poste, ligne, Diplome_De(vue.Dip_A()).value());
-    else
-        Insere_Ligne(poste, ligne);
+        return Remplace_Ligne(poste, ligne, Ligne_Log_Affichee(poste.etat.ligne_selectionnee));
+    if (!poste.etat.saisie_differee)
+        return Ajoute_Ligne(poste, ligne, Diplome_De(vue.Dip_A()).value());
+    return Insere_Ligne(poste, ligne);
 }
 
 /// The next QSO starts at Ind_A; award, band and mode stay.
@@ -163,7 +162,8 @@ void Valide_QSO(Poste &poste, Vue_Saisie &vue)
     if (!Garde_Son_Log(poste, vue))
         return;
     Retient_Prenom(poste, vue);
-    Range(poste, vue, Compose(vue));
+    if (!Range(poste, vue, Compose(vue)))
+        return;
     vue.Selectionne_Derniere();
     Prepare_Le_Suivant(poste, vue);
 }

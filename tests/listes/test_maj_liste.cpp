@@ -174,7 +174,7 @@ TEST(Download, un_corps_plus_court_laisse_la_queue_de_l_ancien)
     Poste_Essai essai;
     essai.fichiers.Pose(u"Liste_TDC.csv"_s, QByteArray("0123456789\xFF\0z", 13));
     essai.telechargement.corps[u"http://x/y"_s] = QByteArray("ab\0\xE9", 4);
-    Download(essai.poste, u"http://x/y"_s, u"Liste_TDC.csv"_s);
+    Download(essai.poste, u"http://x/y"_s, u"Liste_TDC.csv"_s, Sorte_Fichier::Liste);
     EXPECT_EQ(essai.fichiers.Octets(u"Liste_TDC.csv"_s), QByteArray("ab\0\xE9"
                                                                     "456789\xFF\0z",
                                                                     13));
@@ -186,7 +186,7 @@ TEST(Download, un_corps_plus_long_couvre_tout)
     Poste_Essai essai;
     essai.fichiers.Pose(u"Liste_TDC.csv"_s, "0123");
     essai.telechargement.corps[u"http://x/y"_s] = "abcdef";
-    Download(essai.poste, u"http://x/y"_s, essai.fichiers.Chemin(u"Liste_TDC.csv"_s));
+    Download(essai.poste, u"http://x/y"_s, essai.fichiers.Chemin(u"Liste_TDC.csv"_s), Sorte_Fichier::Version);
     EXPECT_EQ(essai.fichiers.Octets(u"Liste_TDC.csv"_s), "abcdef");
 }
 
@@ -194,7 +194,7 @@ TEST(Download, sans_corps_le_fichier_reste_et_l_operateur_est_prevenu)
 {
     Poste_Essai essai;
     essai.fichiers.Pose(u"Liste_TDC.csv"_s, "0123");
-    Download(essai.poste, u"http://x/y"_s, u"Liste_TDC.csv"_s);
+    Download(essai.poste, u"http://x/y"_s, u"Liste_TDC.csv"_s, Sorte_Fichier::Liste);
     EXPECT_EQ(essai.boites.messages, std::vector{pas_d_acces});
     EXPECT_EQ(essai.fichiers.Octets(u"Liste_TDC.csv"_s), "0123");
 }
@@ -204,5 +204,5 @@ TEST(Download, un_disque_qui_refuse_est_un_echec)
     Poste_Essai essai;
     QDir(essai.fichiers.Chemin()).mkdir(u"Liste_TDC.csv"_s);
     essai.telechargement.corps[u"http://x/y"_s] = "abcdef";
-    EXPECT_THROW(Download(essai.poste, u"http://x/y"_s, u"Liste_TDC.csv"_s), Erreur_Execution);
+    EXPECT_THROW(Download(essai.poste, u"http://x/y"_s, u"Liste_TDC.csv"_s, Sorte_Fichier::Liste), Erreur_Execution);
 }

@@ -34,7 +34,8 @@ QStringList Seance::Messages() const
 {
     QStringList tous = messages_;
     if (programme_)
-        for (const QString &message : programme_->boites.messages)
-            tous += message;
+        for (const auto &textes : {programme_->boites.messages, programme_->boites.questions})
+            for (const QString &texte : textes)
+                tous += texte;
     return tous;
 }

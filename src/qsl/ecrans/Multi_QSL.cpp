@@ -134,8 +134,8 @@ void Multi_QSL::Recherche()
 
 void Multi_QSL::Enregistre()
 {
-    Marque_Cartes(poste_, log_, liste_qso_->Cochees());
-    liste_qso_->Remplit({});
+    if (Marque_Cartes(poste_, log_, liste_qso_->Cochees()))
+        liste_qso_->Remplit({});
 }
 
 void Multi_QSL::Imprime()
