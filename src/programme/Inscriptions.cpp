@@ -31,6 +31,7 @@
 #include "outils/Supprime_Doubles.h"
 #include "outils/Trie_Log.h"
 #include "outils/ecrans/ADIF.h"
+#include "outils/ecrans/Copies.h"
 #include "outils/ecrans/Sauvegarde_Log.h"
 #include "outils/ecrans/Select_Annee.h"
 #include "programme/Registre.h"
@@ -74,6 +75,7 @@ void Inscrit_Ecrans(Registre &registre, Poste &poste, Vue_Saisie &vue)
     Inscrit_Ecran<ADIF>(registre, poste, u"ADIF"_s);
     Inscrit_Ecran<Affichage>(registre, poste, u"Affichage"_s);
     Inscrit_Ecran<Carte_Detail>(registre, poste, u"Carte_Detail"_s);
+    Inscrit_Ecran<Copies>(registre, poste, u"Copies"_s);
     Inscrit_Ecran<Cluster>(registre, poste, u"Cluster"_s);
     Inscrit_Ecran<Detail_Activite>(registre, poste, u"Detail_Activite"_s);
     Inscrit_Ecran<Liste_References>(registre, poste, u"Liste_References"_s);

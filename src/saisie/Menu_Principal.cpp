@@ -13,6 +13,8 @@ constexpr Entree_Menu entrees[] = {
     {Commande, u"Mnu_Tri", u"Tri du fichier Log", u"Trie_Log"},
     {Commande, u"Mnu_Doubles", u"Suppression des doubles", u"Supprime_Doubles"},
     {Ecran, u"Mnu_Sauve_Log", u"Parametres de sauvegarde des logs", u"Sauvegarde_Log"},
+    {Separateur, u"Mnu_Sep_Copies", u"", u""},
+    {Ecran, u"Mnu_Copies", u"Revenir à une copie du log", u"Copies"},
 
     {Menu, u"Mnu_Station", u"Station", u""},
     {Ecran_Modal, u"Mnu_New_Indicatif", u"Nouvel indicatif", u"Station"},

@@ -114,13 +114,28 @@ TEST_F(Ecrans_Ouverts, tous_les_autres_sont_refaits_et_le_premier_est_ferme)
     Commence(u"DFCF"_s);
     for (const QStringView code : {u"Ch_DFCF", u"Ch_DMF"})
         Pose_Log(code + u"_2000", {});
-    for (const QString &nom : {u"ADIF"_s,           u"Liste_References"_s,    u"Affichage"_s,
-                               u"Reglements"_s,     u"Recherche_Indicatif"_s, u"Aff_Contacte"_s,
-                               u"Carte_Acti"_s,     u"Carte_Detail"_s,        u"Affiche_Toutes_Activites"_s,
-                               u"Challenge"_s,      u"Detail_Activite"_s,     u"Sauvegarde_Log"_s,
-                               u"Scores_DYLF"_s,    u"Multi_QSL"_s,           u"Cluster"_s,
-                               u"Select_Dip_DAF"_s, u"Select_Dip_DCPF"_s,     u"Select_Dip_DDFM"_s,
-                               u"Select_Dip_DFF"_s, u"Select_Dip_DOHF"_s,     u"Select_Dip_DPF"_s,
+    for (const QString &nom : {u"ADIF"_s,
+                               u"Liste_References"_s,
+                               u"Affichage"_s,
+                               u"Reglements"_s,
+                               u"Recherche_Indicatif"_s,
+                               u"Aff_Contacte"_s,
+                               u"Carte_Acti"_s,
+                               u"Carte_Detail"_s,
+                               u"Affiche_Toutes_Activites"_s,
+                               u"Challenge"_s,
+                               u"Detail_Activite"_s,
+                               u"Sauvegarde_Log"_s,
+                               u"Scores_DYLF"_s,
+                               u"Multi_QSL"_s,
+                               u"Cluster"_s,
+                               u"Copies"_s,
+                               u"Select_Dip_DAF"_s,
+                               u"Select_Dip_DCPF"_s,
+                               u"Select_Dip_DDFM"_s,
+                               u"Select_Dip_DFF"_s,
+                               u"Select_Dip_DOHF"_s,
+                               u"Select_Dip_DPF"_s,
                                u"Select_Dip_TDC"_s}) {
         const QPointer<QWidget> premier = Montre(nom);
         ASSERT_TRUE(premier) << nom.toStdString();

@@ -34,6 +34,7 @@ TEST(Menu_Principal, une_entree_ouvre_son_ecran)
     // clang-format off
     constexpr std::pair<QStringView, QStringView> ecrans[] = {
         {u"Mnu_Sauve_Log", u"Sauvegarde_Log"},
+        {u"Mnu_Copies", u"Copies"},
         {u"Mnu_New_Indicatif", u"Station"},
         {u"Mnu_Affiche", u"Aff_Contacte"},
         {u"Mnu_Aff_All", u"Affiche_Toutes_Activites"},
