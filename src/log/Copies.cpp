@@ -58,6 +58,12 @@ std::vector<Rangee> Rangees(const std::vector<Copie> &triees)
     return rangees;
 }
 
+/// Read part by part: as a local time an hour of the spring would not exist.
+QDateTime Moment_Lu(const QString &texte)
+{
+    return {QDate::fromString(texte.left(8), u"yyyyMMdd"_s), QTime::fromString(texte.mid(9, 6), u"HHmmss"_s), Qt::UTC};
+}
+
 const QString forme_moment = u"yyyyMMdd'T'HHmmss'Z'"_s;
 
 } // namespace
@@ -87,10 +93,9 @@ std::optional<Copie> Copie_Nommee(const QString &fichier)
     const QRegularExpressionMatch parts = forme.match(fichier);
     const auto rangee = std::find_if(
         noms.begin(), noms.end(), [&](const Noms_Outil &rangee_) { return rangee_.dans_le_nom == parts.captured(3); });
-    QDateTime moment = QDateTime::fromString(parts.captured(2), forme_moment);
+    const QDateTime moment = Moment_Lu(parts.captured(2));
     if (!parts.hasMatch() || rangee == noms.end() || !moment.isValid())
         return std::nullopt;
-    moment.setTimeSpec(Qt::UTC);
     return Copie{.nom = parts.captured(1) + parts.captured(5),
                  .moment = moment,
                  .outil = rangee->outil,

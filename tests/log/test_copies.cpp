@@ -1,3 +1,4 @@
+#include "faux/Impression.h"
 #include "log/Copies.h"
 
 #include <gtest/gtest.h>

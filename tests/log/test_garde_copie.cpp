@@ -1,6 +1,7 @@
 #include "log/Garde_Copie.h"
 
 #include "faux/Disque_Qui_Refuse.h"
+#include "faux/Impression.h"
 #include "faux/Poste_Essai.h"
 #include "faux/QSO_Essai.h"
 #include "log/Charge_Log.h"

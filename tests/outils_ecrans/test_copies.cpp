@@ -1,4 +1,5 @@
 #include "faux/Conduite.h"
+#include "faux/Impression.h"
 #include "faux/Poste_Essai.h"
 #include "faux/QSO_Essai.h"
 #include "log/Garde_Copie.h"

@@ -1,3 +1,4 @@
+#include "faux/Impression.h"
 #include "faux/Poste_Essai.h"
 #include "plateforme/qt/Fichier_Sur.h"
 
