@@ -1,6 +1,5 @@
 #include "log/Garde_Copie.h"
 
-#include "faux/Disque_Qui_Refuse.h"
 #include "faux/Impression.h"
 #include "faux/Poste_Essai.h"
 #include "faux/QSO_Essai.h"
@@ -13,6 +12,16 @@
 using namespace Qt::StringLiterals;
 
 namespace {
+
+/// Room for a line, but for no copy.
+class Dossier_Plein : public Dossier_Disque {
+public:
+    using Dossier_Disque::Dossier_Disque;
+    Issue_Copie Garde(const QString &, const QString &, Avenir) override
+    {
+        throw Erreur_Execution(Cause::Disque_Plein, u"le disque est plein"_s);
+    }
+};
 
 class Copies_De_Securite : public ::testing::Test {
 protected:
@@ -140,12 +149,19 @@ TEST_F(Copies_De_Securite, sans_copie_et_sans_oui_aucun_qso_ne_change)
     EXPECT_EQ(essai.fichiers.Octets(log), avant);
 }
 
-TEST_F(Copies_De_Securite, un_disque_plein_se_dit_par_l_ajout_et_non_par_une_question)
+TEST_F(Copies_De_Securite, un_disque_plein_ne_retient_pas_un_qso_mais_un_outil)
 {
-    const Disque_Qui_Refuse plein;
-    EXPECT_THROW(Ajoute_Ligne(essai.poste, nouvelle, Diplome::DFCF), Erreur_Execution);
+    Dossier_Plein plein(essai.fichiers.Chemin());
+    Poste poste{{plein, essai.reglages, essai.horloge, essai.boites, essai.ecrans, essai.imprimante,
+                 essai.telechargement, essai.vues_web},
+                essai.etat,
+                essai.ecran};
+    EXPECT_TRUE(Ajoute_Ligne(poste, nouvelle, Diplome::DFCF));
+    EXPECT_EQ(essai.fichiers.Octets(log), avant + suite);
     EXPECT_TRUE(essai.boites.questions.empty());
-    EXPECT_EQ(Copies(), QStringList());
+    essai.boites.reponses = {false};
+    EXPECT_FALSE(Remplace_Ligne(poste, nouvelle, ligne));
+    EXPECT_EQ(essai.boites.questions.size(), 1U);
 }
 
 TEST_F(Copies_De_Securite, un_log_absent_n_en_demande_pas)
