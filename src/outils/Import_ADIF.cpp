@@ -4,6 +4,7 @@
 #include "log/Ecran_Principal.h"
 #include "log/Etat_Commun.h"
 #include "log/Garde_Copie.h"
+#include "log/Log_De_Cote.h"
 #include "log/Poste.h"
 #include "outils/Enregistrements_ADIF.h"
 #include "outils/Mise_De_Cote.h"
@@ -157,7 +158,7 @@ void Demande_Import(Poste &poste)
 
 void Importe(Poste &poste, const Choix_Import &choix, Ecran_Import &ecran)
 {
-    Retablit_Un_Import_Coupe(poste);
+    Retablit_Log(poste, poste.etat.station.indicatif, poste.etat.station.diplome);
     if (!choix.ajout)
         Met_Le_Log_De_Cote(poste);
     Import_ADIF(poste, choix, ecran);
@@ -167,7 +168,7 @@ void Import_ADIF(Poste &poste, const Choix_Import &choix, Ecran_Import &ecran)
 {
     const std::optional<QString> choisi = ecran.Choisit_Fichier();
     if (!choisi)
-        return Retablit_Un_Import_Coupe(poste);
+        return Retablit_Log(poste, poste.etat.station.indicatif, poste.etat.station.diplome);
     const QString &chemin = *choisi;
     if (chemin.isEmpty()) {
         poste.boites.Message(u"selectionnez un fichier ou quitter"_s);

@@ -2,55 +2,72 @@
 
 #include "log/Chemin_Log.h"
 #include "log/Etat_Commun.h"
+#include "log/Log_De_Cote.h"
 #include "log/Poste.h"
 #include "outils/Nom_Log_ADIF.h"
 #include "plateforme/Boites.h"
 #include "plateforme/Dossier.h"
 
+#include <algorithm>
+#include <set>
+
 using namespace Qt::StringLiterals;
 
 namespace {
 
-QString Bak_Sans_Annee(const Etat_Commun &etat)
+constexpr int premier_numero = 2;
+
+QString Bak_Numerote(const Station_Courante &station, int numero)
 {
-    return etat.station.indicatif + u'_' + Code(etat.station.diplome) + u".bak";
+    return u"%1_%2_%3.bak"_s.arg(station.indicatif, Code(station.diplome)).arg(numero);
 }
 
-QString Log_Sans_Annee(const Etat_Commun &etat)
+int Numero_Libre(const Poste &poste)
 {
-    return Chemin_Log(etat.station.indicatif, etat.station.diplome);
+    int numero = premier_numero;
+    while (poste.dossier.Existe(Bak_Numerote(poste.etat.station, numero)))
+        ++numero;
+    return numero;
 }
 
-void Devient(Poste &poste, const QString &source, const QString &cible)
+bool Contient(const Lignes_Texte &lignes, const Lignes_Texte &autres)
 {
-    poste.dossier.Copie(source, cible);
-    poste.dossier.Supprime(source);
+    const std::set<QStringView> connues(lignes.begin(), lignes.end());
+    return std::all_of(autres.begin(), autres.end(), [&](QStringView ligne) { return connues.contains(ligne); });
+}
+
+/// The log that an import put aside and never gave back would be lost under a shorter one.
+void Garde_L_Ancien_Bak(Poste &poste, const QString &log, const QString &bak)
+{
+    if (!poste.dossier.Existe(bak) || Contient(poste.dossier.Lit_Lignes(log), poste.dossier.Lit_Lignes(bak)))
+        return;
+    const QString garde = Bak_Numerote(poste.etat.station, Numero_Libre(poste));
+    Change_De_Nom(poste.dossier, bak, garde);
+    poste.boites.Message(u"Une importation précédente ne s'est pas terminée, le log d'avant elle est gardé dans "_s +
+                         garde + u"\njusqu'à la fin d'une importation");
 }
 
 } // namespace
 
 void Met_Le_Log_De_Cote(Poste &poste)
 {
-    Devient(poste, Log_Sans_Annee(poste.etat), Bak_Sans_Annee(poste.etat));
+    const Station_Courante &station = poste.etat.station;
+    const QString log = Chemin_Log(station.indicatif, station.diplome);
+    const QString bak = Bak_Du_Log(station.indicatif, station.diplome);
+    Garde_L_Ancien_Bak(poste, log, bak);
+    Change_De_Nom(poste.dossier, log, bak);
 }
 
 void Remet_Le_Log(Poste &poste)
 {
     const QString nom = Nom_Log_ADIF(poste.etat);
-    Devient(poste, nom + u".bak", nom + u".log");
+    Change_De_Nom(poste.dossier, nom + u".bak", nom + u".log");
 }
 
 void Oublie_Le_Bak(Poste &poste)
 {
     poste.dossier.Supprime(Nom_Log_ADIF(poste.etat) + u".bak");
-}
-
-void Retablit_Un_Import_Coupe(Poste &poste)
-{
-    const QString log = Log_Sans_Annee(poste.etat);
-    const QString bak = Bak_Sans_Annee(poste.etat);
-    if (poste.dossier.Existe(log) || !poste.dossier.Existe(bak))
-        return;
-    Devient(poste, bak, log);
-    poste.boites.Message(u"Une importation précédente a été interrompue, le log "_s + log + u" a été rétabli");
+    // From the last: after a crash those that are left still follow each other.
+    for (int numero = Numero_Libre(poste); numero-- > premier_numero;)
+        poste.dossier.Supprime(Bak_Numerote(poste.etat.station, numero));
 }

@@ -2,11 +2,11 @@
 
 #include "log/Catalogue.h"
 #include "log/Charge_Log.h"
-#include "log/Chemin_Log.h"
 #include "log/Cles.h"
 #include "log/Etat_Commun.h"
 #include "log/Historique.h"
 #include "log/Ligne_Affichage.h"
+#include "log/Log_De_Cote.h"
 #include "log/Moment.h"
 #include "log/Notice.h"
 #include "log/Poste.h"
@@ -102,7 +102,7 @@ void Cree_Logs_Manquants(Poste &poste)
 {
     for (const Diplome diplome : tous_les_diplomes)
         if (Notice_De(diplome).ajoute)
-            Tolere([&] { poste.dossier.Cree_Si_Absent(Chemin_Log(poste.etat.station.indicatif, diplome)); });
+            Tolere([&] { Cree_Log_Absent(poste.dossier, poste.etat.station.indicatif, diplome); });
     Tolere([&] { poste.dossier.Cree_Si_Absent(u"Liste_PC.csv"_s); });
     Tolere([&] { poste.dossier.Cree_Si_Absent(fichier_prenoms.toString()); });
 }
@@ -127,6 +127,8 @@ void Demarre(Poste &poste, Vue_Saisie &vue)
 {
     vue.Choisit(Controle::Dip_A, 0);
     Reprend_Station(poste, vue);
+    // Before the backup and before an empty log takes the place of one that stands aside.
+    Retablit_Station(poste, poste.etat.station.indicatif);
     const bool sans_sauvegarde = Demande_Repertoire_Sauvegarde(poste);
     Sauve_Si_Besoin(poste);
     Reprend_Separateur(poste, vue);

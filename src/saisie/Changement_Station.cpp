@@ -1,9 +1,9 @@
 #include "saisie/Changement_Station.h"
 
 #include "log/Charge_Log.h"
-#include "log/Chemin_Log.h"
 #include "log/Cles.h"
 #include "log/Etat_Commun.h"
+#include "log/Log_De_Cote.h"
 #include "log/Poste.h"
 #include "log/Reglages_Station.h"
 #include "plateforme/Dossier.h"
@@ -53,9 +53,7 @@ bool Est_Refus_De_Caractere(QStringView indicatif)
 
 void Cree_Logs(Poste &poste, QStringView indicatif)
 {
-    const auto cree = [&](Diplome diplome) {
-        Tolere([&] { poste.dossier.Cree_Si_Absent(Chemin_Log(indicatif, diplome)); });
-    };
+    const auto cree = [&](Diplome diplome) { Tolere([&] { Cree_Log_Absent(poste.dossier, indicatif, diplome); }); };
     for (const Diplome diplome : tous_les_diplomes)
         if (diplome != diplome_de_la_station)
             cree(diplome);
@@ -65,7 +63,8 @@ void Cree_Logs(Poste &poste, QStringView indicatif)
 void Change_Station(Poste &poste, Vue_Saisie &vue, const QString &indicatif)
 {
     // A disk that does not answer is not a new station: the question fails before anything is changed.
-    const bool connue = poste.dossier.Existe(Chemin_Log(indicatif, diplome_de_la_station));
+    const bool connue = Connait_Log(poste.dossier, indicatif, diplome_de_la_station);
+    Retablit_Station(poste, indicatif);
     poste.etat.station.indicatif = indicatif;
     if (!connue)
         Installe_Nouvelle_Station(poste);

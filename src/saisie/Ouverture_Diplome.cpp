@@ -4,6 +4,7 @@
 #include "log/Charge_Log.h"
 #include "log/Cles.h"
 #include "log/Etat_Commun.h"
+#include "log/Log_De_Cote.h"
 #include "log/Notice.h"
 #include "log/Poste.h"
 #include "log/Reglages_Station.h"
@@ -157,6 +158,7 @@ void Ouvre_Diplome(Poste &poste, Vue_Saisie &vue)
         return;
     }
     vue.Efface_Saisie();
+    Retablit_Ou_Dit(poste, poste.etat.station.indicatif, diplome);
     Charge_Log(poste, diplome);
     poste.etat.station.diplome = diplome;
     poste.ecrans.Suit_Le_Log();

@@ -278,6 +278,34 @@ TEST_F(Import, un_bak_a_cote_d_un_log_ne_touche_pas_au_log)
     EXPECT_TRUE(essai.boites.messages.empty());
 }
 
+TEST_F(Import, un_second_remplacement_apres_un_echec_garde_le_log_d_avant_le_premier)
+{
+    Choisit({ADIF({}), ADIF({.qso_date = u"-"_s})});
+    EXPECT_THROW(Lance(remplace), Erreur_Execution);
+    essai.boites.messages.clear();
+    EXPECT_THROW(Lance(remplace), Erreur_Execution);
+    ASSERT_FALSE(essai.boites.messages.empty());
+    EXPECT_EQ(essai.boites.messages[0], u"Une importation précédente ne s'est pas terminée, le log d'avant elle est "
+                                        u"gardé dans F9ZZY_DFCF_2.bak\njusqu'à la fin d'une importation"_s);
+    EXPECT_EQ(Log(u"F9ZZY_DFCF_2.bak"_s), Textes{Ancienne()});
+    EXPECT_EQ(Log(u"F9ZZY_DFCF.bak"_s), Textes{Nouvelle()});
+    essai.fichiers.Pose(u"F9ZZY_DFCF.log"_s, "");
+    EXPECT_THROW(Lance(remplace), Erreur_Execution);
+    EXPECT_EQ(Log(u"F9ZZY_DFCF_2.bak"_s), Textes{Ancienne()});
+    EXPECT_EQ(Log(u"F9ZZY_DFCF_3.bak"_s), Textes{Nouvelle()});
+    Choisit({ADIF({})});
+    Lance(remplace);
+    EXPECT_EQ(essai.fichiers.Fichiers(), QStringList{u"F9ZZY_DFCF.log"_s});
+}
+
+TEST_F(Import, un_bak_dont_le_log_a_toutes_les_lignes_n_est_pas_garde)
+{
+    essai.fichiers.Pose(u"F9ZZY_DFCF.bak"_s, essai.fichiers.Octets(u"F9ZZY_DFCF.log"_s));
+    Lance(remplace);
+    EXPECT_EQ(essai.fichiers.Fichiers(), QStringList{u"F9ZZY_DFCF.log"_s});
+    EXPECT_EQ(essai.boites.messages, Textes{u"selectionnez un fichier ou quitter"_s});
+}
+
 TEST_F(Import, un_departement_de_trois_caracteres_ne_laisse_rien_entre_les_colonnes)
 {
     Choisit({ADIF({.state = u"971"_s, .sig = u"97101"_s})});

@@ -52,6 +52,39 @@ TEST_F(Demarrage, la_station_reprend_ses_choix_son_log_et_son_titre)
     EXPECT_EQ(Reglage(u"Setup "_s, u"Chemin Repertoire"_s), fichiers.Chemin());
 }
 
+TEST_F(Demarrage, les_logs_qu_un_import_coupe_laissa_de_cote_reviennent_et_c_est_dit)
+{
+    Installe_Station(u"PC"_s);
+    const QByteArray log = QSO({.ref = u"77001"_s}).toLatin1() + "\r\n";
+    std::vector<QString> attendus;
+    for (const QStringView code : codes_diplome) {
+        const QString nom = u"F9ZZY_"_s + code;
+        ASSERT_TRUE(QFile::remove(fichiers.Chemin(nom + u".log")));
+        fichiers.Pose(nom + u".bak", log);
+        attendus.push_back(u"Une importation précédente a été interrompue, le log "_s + nom + u".log a été rétabli");
+    }
+    EXPECT_EQ(Ouvre(), attendus);
+    for (const QStringView code : codes_diplome) {
+        EXPECT_EQ(fichiers.Octets(u"F9ZZY_"_s + code + u".log"), log);
+        EXPECT_FALSE(fichiers.Existe(u"F9ZZY_"_s + code + u".bak"));
+    }
+    EXPECT_EQ(QSO_Affiches().size(), 1U);
+}
+
+TEST_F(Demarrage, un_log_de_cote_qui_ne_peut_pas_revenir_n_est_pas_couvert_par_un_log_vide)
+{
+    Installe_Station(u"DLF"_s);
+    ASSERT_TRUE(QFile::remove(fichiers.Chemin(u"F9ZZY_PC.log"_s)));
+    // A folder: it bears the name, and nobody reads it.
+    ASSERT_TRUE(QDir(fichiers.Chemin()).mkdir(u"F9ZZY_PC.bak"_s));
+    const std::vector<QString> messages = Ouvre();
+    ASSERT_EQ(messages.size(), 1U);
+    EXPECT_TRUE(messages[0].startsWith(u"Une importation précédente a été interrompue, le log F9ZZY_PC.log n'a pas pu "
+                                       u"être rétabli :\n"_s))
+        << messages[0].toStdString();
+    EXPECT_FALSE(fichiers.Existe(u"F9ZZY_PC.log"_s));
+}
+
 TEST_F(Demarrage, le_dernier_qso_du_log_donne_bande_et_mode_et_l_ecran_est_au_repos)
 {
     Installe_Station(u"DLF"_s);

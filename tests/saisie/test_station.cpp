@@ -127,6 +127,20 @@ TEST_F(Changement, un_indice_absurde_laisse_le_choix_comme_il_est)
     EXPECT_EQ(essai.vue.Texte(Controle::Bande_A), u""_s);
 }
 
+TEST_F(Changement, une_station_dont_un_import_fut_coupe_n_est_pas_neuve_et_ses_logs_reviennent)
+{
+    const QByteArray log = QSO({}).toLatin1() + "\r\n";
+    for (const QString &code : {u"DFCF"_s, u"Ch_DMF"_s})
+        essai.fichiers.Pose(u"F4ABC_"_s + code + u".bak", log);
+    essai.reglages.vorlain[{u"Setup F4ABC"_s, u"bande Utilisee"_s}] = u"6"_s;
+    Change_Station(essai.poste, essai.vue, u"F4ABC"_s);
+    for (const QString &code : {u"DFCF"_s, u"Ch_DMF"_s})
+        EXPECT_EQ(essai.fichiers.Octets(u"F4ABC_"_s + code + u".log"), log);
+    EXPECT_EQ(Reglage(u"Setup F4ABC"_s, u"bande Utilisee"_s), u"6"_s);
+    EXPECT_EQ(essai.Messages().size(), 2U);
+    EXPECT_FALSE(essai.fichiers.Existe(u"F4ABC_DFCF.bak"_s));
+}
+
 TEST_F(Changement, un_log_dfcf_qui_ne_s_ouvre_pas_ne_vide_pas_les_autres)
 {
     const QByteArray log = QSO({}).toLatin1() + "\r\n";
