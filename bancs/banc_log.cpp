@@ -4,6 +4,7 @@
 #include "faux/Poste_Essai.h"
 #include "faux/QSO_Essai.h"
 #include "log/Charge_Log.h"
+#include "log/Ecran_Principal.h"
 #include "log/Ecritures_Log.h"
 #include "saisie/ecrans/Main.h"
 
@@ -37,7 +38,7 @@ struct Logbook {
     {
         essai.fichiers.Pose(u"F9ZZY_DFCF.log"_s, Log(lignes));
         essai.etat.station.diplome = Diplome::DFCF;
-        ecran.Choisit(Controle::Dip_A, 6);
+        ecran.La_Saisie().Choisit(Controle::Dip_A, 6);
         ecran.resize(1300, 700);
         ecran.show();
         Charge_Log(ecran.Le_Poste(), Diplome::DFCF);
@@ -70,7 +71,7 @@ void Chargement_Et_Affichage(benchmark::State &etat)
     Logbook logbook(etat.range(0));
     for (auto _ : etat) {
         Charge_Log(logbook.ecran.Le_Poste(), Diplome::DFCF);
-        logbook.ecran.Selectionne_Derniere();
+        logbook.ecran.Le_Poste().ecran.Selectionne_Derniere();
         QApplication::processEvents();
     }
 }

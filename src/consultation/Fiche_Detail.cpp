@@ -1,7 +1,7 @@
 #include "consultation/Fiche_Detail.h"
 
 #include "listes/Champs_Des_Listes.h"
-#include "log/Etat_Commun.h"
+#include "log/Ecran_Principal.h"
 #include "log/Ligne_Affichage.h"
 #include "log/Ligne_Liste.h"
 #include "log/Poste.h"
@@ -129,7 +129,7 @@ const Fiche_Detail fiche_detail_pc{u"Detail_PC", u"Liste_PC.csv", 10, champs_det
 QString Reference_Selectionnee(const Poste &poste, const Fiche_Detail &fiche)
 {
     const Champ champ{colonnes_affichage::Ref.colonne, fiche.colonnes_ref};
-    return Lit_Rogne(poste.etat.ligne_selectionnee, champ).toString();
+    return Lit_Rogne(poste.ecran.Ligne_Selectionnee(), champ).toString();
 }
 
 Textes_Detail Cherche_Detail(Poste &poste, const Fiche_Detail &fiche, QStringView reference)

@@ -101,9 +101,14 @@ void Liste_Fixe::Selectionne(int rang)
 {
     if (rang < 0 || rang >= Nombre())
         return;
+    Place_Sur(rang);
+    Q_EMIT Cliquee(rang);
+}
+
+void Liste_Fixe::Place_Sur(int rang)
+{
     setCurrentIndex(modele_->index(rang));
     rang_dit_ = rang;
-    Q_EMIT Cliquee(rang);
 }
 
 void Liste_Fixe::Dit_Le_Deplacement()

@@ -27,6 +27,9 @@ public:
     /// Selects an entry and tells it by Cliquee(), as a click does, also when it was selected already.
     void Selectionne(int rang);
 
+    /// Selects an entry and tells nobody.
+    void Place_Sur(int rang);
+
     /// Puts a header above the first row, aligned with the columns; it moves with them when the list is scrolled.
     void Pose_Entete(QLabel *entete);
     /// Asks for room for that many columns and rows; the columns are always shown whole.

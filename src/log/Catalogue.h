@@ -2,7 +2,6 @@
 
 #include "log/Diplome.h"
 
-#include <QString>
 #include <QStringView>
 
 #include <array>
@@ -23,7 +22,5 @@ inline constexpr std::array<QStringView, 5> modes = {u"SSB", u"CW", u"PSK", u"TT
 /// The word before the reference; none without an award.
 QStringView Type_Ref(std::optional<Diplome> diplome);
 
-/// The code that a text spells in whatever case, in its own form; a text that spells none comes back as it is.
-QString En_Forme_De_Code(const QString &texte);
 /// The two challenges, whose log bears a year.
 bool Est_Challenge(std::optional<Diplome> diplome);

@@ -47,5 +47,5 @@ inline constexpr std::array<Diplome, nombre_diplomes> tous_les_diplomes = [] {
 QStringView Code(Diplome diplome);
 QStringView Code(std::optional<Diplome> diplome);
 
-/// The award of a code as Dip_A shows it; nullopt for any other text.
+/// The award whose code a text spells, in whatever case; nullopt for any other text.
 std::optional<Diplome> Diplome_De(QStringView code);

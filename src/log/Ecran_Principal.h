@@ -1,5 +1,6 @@
 #pragma once
 
+#include "log/Diplome.h"
 #include "plateforme/Lignes_Texte.h"
 
 #include <QString>
@@ -20,17 +21,19 @@ public:
     virtual void Selectionne_QSO(std::size_t rang) = 0;
     /// The Ligne_Affichage of the entry that is selected; empty if none is.
     [[nodiscard]] virtual QString QSO_Selectionne() const = 0;
+    /// The Ligne_Affichage of the entry last clicked, or selected by the program, also after the list was filled anew;
+    /// empty until the first click.
+    [[nodiscard]] virtual QString Ligne_Selectionnee() const = 0;
     virtual void Active_Ind_A() = 0;
 
-    /// The text of Dip_A, a code in its own form whatever its case is there. It need not be the current award.
-    [[nodiscard]] virtual QString Dip_A() const = 0;
+    /// The award that Dip_A names, which need not be the current one; nullopt for a text that is none.
+    [[nodiscard]] virtual std::optional<Diplome> Dip_A() const = 0;
     /// Puts the focus there.
     virtual void Va_A_Dip_A() = 0;
     /// The text of Ref_A: the reference on the entry line.
     [[nodiscard]] virtual QString Ref_A() const = 0;
     /// The text of I_Station: the call sign as shown.
     [[nodiscard]] virtual QString I_Station() const = 0;
-    /// Clear the entry back to rest, with the focus on Dip_A or on Bande_A.
-    virtual void Efface() = 0;
+    /// Clears the entry back to rest, with the focus on Bande_A.
     virtual void Efface_Saisie() = 0;
 };

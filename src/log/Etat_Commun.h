@@ -16,19 +16,6 @@ struct Etat_Commun {
     QString version;
     QString historique;
 
-    /// The Ligne_Affichage of the last entry clicked in Liste_QSO; empty until the first click.
-    QString ligne_selectionnee;
-    /// A stored QSO is on display or under edit: a commit replaces instead of adding.
-    bool qso_affiche = false;
-    /// A double click opened the QSO: single clicks no longer fill the fields.
-    bool qso_en_edition = false;
-    /// Deferred entry: date and time are typed, repeats pass, a commit inserts at its place in time.
-    bool saisie_differee = false;
-    /// The first-name list must be updated at commit. Only a look-up by Ind_A clears it.
-    bool prenom_nouveau = false;
-    /// "/" and ":" come by themselves in Date_A and Heure_A.
-    bool separateur_auto = false;
-
     // Texts shared by the award screens. A choice screen or a tier button sets them, sheets and lists read them, and
     // nothing resets them.
     QString bande_liste;
@@ -52,6 +39,4 @@ struct Etat_Commun {
     QString titre_page;
     /// The department that Carte_Detail marks: Dpt_I of Detail_Activite.
     QString departement_carte;
-
-    [[nodiscard]] bool QSO_Touche() const { return qso_affiche || qso_en_edition; }
 };

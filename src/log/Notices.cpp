@@ -196,7 +196,7 @@ QStringView Code(std::optional<Diplome> diplome)
 std::optional<Diplome> Diplome_De(QStringView code)
 {
     for (const Diplome diplome : tous_les_diplomes)
-        if (Code(diplome) == code)
+        if (Code(diplome).compare(code, Qt::CaseInsensitive) == 0)
             return diplome;
     return std::nullopt;
 }

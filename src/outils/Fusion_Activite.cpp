@@ -37,7 +37,7 @@ std::vector<QString> Activations(const Lignes_Texte &source, const Lignes_Texte 
 
 void Fusion_Activite(Poste &poste, Diplome de)
 {
-    if (Diplome_De(poste.ecran.Dip_A()) != poste.etat.station.diplome) {
+    if (poste.ecran.Dip_A() != poste.etat.station.diplome) {
         poste.boites.Message(u"Selectionnez un diplome"_s);
         poste.ecran.Va_A_Dip_A();
         return;

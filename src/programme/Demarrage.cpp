@@ -3,9 +3,9 @@
 #include "log/Catalogue.h"
 #include "log/Charge_Log.h"
 #include "log/Cles.h"
+#include "log/Ecran_Principal.h"
 #include "log/Etat_Commun.h"
 #include "log/Historique.h"
-#include "log/Ligne_Affichage.h"
 #include "log/Log_De_Cote.h"
 #include "log/Moment.h"
 #include "log/Notice.h"
@@ -19,8 +19,10 @@
 #include "plateforme/Tolere.h"
 #include "saisie/Choix_Retenu.h"
 #include "saisie/Liste_Prenom.h"
+#include "saisie/Options.h"
 #include "saisie/Refus.h"
-#include "saisie/Vue_Saisie.h"
+#include "saisie/Repos.h"
+#include "saisie/Saisie.h"
 
 using namespace Qt::StringLiterals;
 
@@ -34,13 +36,13 @@ bool Est_Premiere_Installation(const Poste &poste)
     return poste.etat.station.indicatif == indicatif_absent;
 }
 
-void Reprend_Station(Poste &poste, Vue_Saisie &vue)
+void Reprend_Station(Poste &poste, Saisie &saisie)
 {
     poste.etat.station.indicatif = Station_Retenue(poste);
     // As stored: only a change of station turns "_" back to "/".
-    vue.Ecrit(Controle::I_Station, poste.etat.station.indicatif);
-    Reprend_Bande_Et_Mode(poste, vue);
-    Reprend_Choix(poste, vue, Controle::Dip_A, cles::diplome_utilise);
+    saisie.Ecrit(Controle::I_Station, poste.etat.station.indicatif);
+    Reprend_Bande_Et_Mode(poste, saisie);
+    Reprend_Choix(poste, saisie, Controle::Dip_A, cles::diplome_utilise);
     Lit_Annees_Challenge(poste);
 }
 
@@ -77,24 +79,16 @@ void Sauve_Si_Besoin(Poste &poste)
                          Lit_Station(poste, cles::chemin_sauvegarde, cles::chemin_sauvegarde_absent));
 }
 
-void Reprend_Separateur(Poste &poste, Vue_Saisie &vue)
-{
-    poste.etat.separateur_auto = Lit_Station(poste, cles::separateur_auto, u"Non") == u"Oui";
-    vue.Coche_Separateur_Auto(poste.etat.separateur_auto);
-}
-
 void Retient_Repertoire(Poste &poste)
 {
     Tolere([&] { Ecrit_General(poste, cles::chemin_repertoire, poste.dossier.Repertoire_Appli()); });
 }
 
-void Montre_Le_Log(Poste &poste, Vue_Saisie &vue)
+void Montre_Le_Log(Poste &poste, Saisie &saisie)
 {
-    poste.etat.qso_affiche = false;
-    vue.Montre_Ecran();
     if (!Est_Premiere_Installation(poste))
-        Tolere([&] { Charge_Log(poste, Diplome_De(vue.Texte(Controle::Dip_A))); });
-    vue.Selectionne_Derniere();
+        Tolere([&] { Charge_Log(poste, saisie.Dip_A()); });
+    poste.ecran.Selectionne_Derniere();
 }
 
 /// Carries a station's folder over versions that added awards.
@@ -107,12 +101,11 @@ void Cree_Logs_Manquants(Poste &poste)
     Tolere([&] { poste.dossier.Cree_Si_Absent(fichier_prenoms.toString()); });
 }
 
-void Installe_Textes(Poste &poste, Vue_Saisie &vue)
+void Installe_Textes(Poste &poste, Saisie &saisie)
 {
     poste.etat.historique = Historique();
     poste.etat.version = version_vorlain.toString();
-    vue.Ecrit(Controle::Label_Liste_QSO, entete_liste_qso.toString());
-    vue.Titre(u"   Vorlain  Revision "_s + poste.etat.version);
+    saisie.Ecrit(Controle::Main, u"   Vorlain  Revision "_s + poste.etat.version);
     Tolere([&] { Ecrit_General(poste, cles::revision, poste.etat.version); });
 }
 
@@ -123,26 +116,28 @@ QString Station_Retenue(const Poste &poste)
     return Lit_General(poste, cles::indicatif_station, indicatif_absent);
 }
 
-void Demarre(Poste &poste, Vue_Saisie &vue)
+void Demarre(Poste &poste, Saisie &saisie, const std::function<void()> &montre)
 {
-    vue.Choisit(Controle::Dip_A, 0);
-    Reprend_Station(poste, vue);
+    saisie.Choisit(Controle::Dip_A, 0);
+    Reprend_Station(poste, saisie);
     // Before the backup and before an empty log takes the place of one that stands aside.
     Retablit_Station(poste, poste.etat.station.indicatif);
     const bool sans_sauvegarde = Demande_Repertoire_Sauvegarde(poste);
     Sauve_Si_Besoin(poste);
-    Reprend_Separateur(poste, vue);
-    vue.Ecrit(Controle::Type_Ref, Type_Ref(Diplome_De(vue.Texte(Controle::Dip_A))).toString());
+    Reprend_Separateur(poste, saisie);
+    saisie.Ecrit(Controle::Type_Ref, Type_Ref(saisie.Dip_A()).toString());
     Retient_Repertoire(poste);
     if (Est_Premiere_Installation(poste))
         poste.boites.Message(Message_Premiere_Installation());
-    Montre_Le_Log(poste, vue);
+    saisie.qso_affiche = false;
+    montre();
+    Montre_Le_Log(poste, saisie);
     Retient_Repertoire(poste);
-    poste.etat.station.diplome = Diplome_De(vue.Texte(Controle::Dip_A));
-    poste.etat.prenom_nouveau = false;
+    poste.etat.station.diplome = saisie.Dip_A();
+    saisie.prenom_nouveau = false;
     Cree_Logs_Manquants(poste);
-    Installe_Textes(poste, vue);
-    vue.Efface();
+    Installe_Textes(poste, saisie);
+    Efface_Tout(saisie);
     // The operator was told to set the folder: the main screen must not hide where.
     if (sans_sauvegarde)
         poste.ecrans.Montre(u"Sauvegarde_Log"_s);

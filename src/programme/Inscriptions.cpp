@@ -58,10 +58,10 @@ void Inscrit_Annee_Challenge(Registre &registre, Poste &poste, const QString &co
     });
 }
 
-void Inscrit_Ecrans(Registre &registre, Poste &poste, Vue_Saisie &vue)
+void Inscrit_Ecrans(Registre &registre, Poste &poste, Saisie &saisie)
 {
     using enum Reouverture;
-    registre.Inscrit_Ecran({u"Station"_s, [&poste, &vue] { return new Station(poste, vue); }});
+    registre.Inscrit_Ecran({u"Station"_s, [&poste, &saisie] { return new Station(poste, saisie); }});
     for (const Inscription &ecran : diplomes::Ecrans_Diplomes(poste))
         registre.Inscrit_Ecran(ecran);
     Inscrit_Ecran<Detail_DFCF>(registre, poste, u"Detail_DFCF"_s, Telle_Quelle);
@@ -102,9 +102,8 @@ void Inscrit_Commandes(Registre &registre, Poste &poste)
     commande(u"Liste_Des_Iles"_s, Liste_Des_Iles);
     commande(u"Nouvelle_Revision"_s, Nouvelle_Revision);
     // The award that Dip_A shows, opened with Enter or not; a text that is no award has no screen.
-    registre.Inscrit_Commande(u"Fiche_Diplome"_s, [&poste] {
-        poste.ecrans.Montre(diplomes::Ecran_Du_Diplome(Diplome_De(poste.ecran.Dip_A())));
-    });
+    registre.Inscrit_Commande(u"Fiche_Diplome"_s,
+                              [&poste] { poste.ecrans.Montre(diplomes::Ecran_Du_Diplome(poste.ecran.Dip_A())); });
     for (const Maj &maj : Majs_Liste())
         registre.Inscrit_Commande(maj.menu.toString(), [&poste, &maj] { Maj_Liste(poste, maj); });
     for (const Maj_Nom &maj : Majs_Nom())
@@ -115,8 +114,8 @@ void Inscrit_Commandes(Registre &registre, Poste &poste)
 
 } // namespace
 
-void Inscrit(Registre &registre, Poste &poste, Vue_Saisie &vue)
+void Inscrit(Registre &registre, Poste &poste, Saisie &saisie)
 {
-    Inscrit_Ecrans(registre, poste, vue);
+    Inscrit_Ecrans(registre, poste, saisie);
     Inscrit_Commandes(registre, poste);
 }

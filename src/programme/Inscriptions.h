@@ -2,7 +2,7 @@
 
 struct Poste;
 class Registre;
-class Vue_Saisie;
+class Saisie;
 
 /// Registers every screen and every command of the program.
-void Inscrit(Registre &registre, Poste &poste, Vue_Saisie &vue);
+void Inscrit(Registre &registre, Poste &poste, Saisie &saisie);

@@ -9,7 +9,7 @@ Programme::Programme(const QString &repertoire, const Horloge &horloge)
       vues_web_(Vues_Web_Du_Programme()),
       ecran_({dossier_, reglages_, horloge, boites_, registre_, imprimante_, telechargement_, *vues_web_}, etat_)
 {
-    Inscrit(registre_, ecran_.Le_Poste(), ecran_);
+    Inscrit(registre_, ecran_.Le_Poste(), ecran_.La_Saisie());
     ecran_.Installe_Menus(registre_);
 }
 
@@ -25,5 +25,5 @@ void Programme::Installe()
 
 void Programme::Ouvre()
 {
-    Demarre(ecran_.Le_Poste(), ecran_);
+    Demarre(ecran_.Le_Poste(), ecran_.La_Saisie(), [this] { ecran_.Ouvre(); });
 }

@@ -1,6 +1,7 @@
 #include "saisie/Boutons_Reference.h"
 
 #include "log/Catalogue.h"
+#include "log/Ecran_Principal.h"
 #include "log/Etat_Commun.h"
 #include "log/Notice.h"
 #include "log/Poste.h"
@@ -23,7 +24,7 @@ void Presse_Detail(Poste &poste, Commandes &commandes)
 {
     const std::optional<Diplome> diplome = poste.etat.station.diplome;
     const Reponse_Detail reponse = diplome ? Notice_De(*diplome).detail : Reponse_Detail();
-    if (!reponse.sans_qso && poste.etat.ligne_selectionnee.isEmpty())
+    if (!reponse.sans_qso && poste.ecran.Ligne_Selectionnee().isEmpty())
         poste.boites.Message(u"Selectionnez un QSO"_s);
     else if (!reponse.ecran.isEmpty())
         poste.ecrans.Montre(reponse.ecran.toString());

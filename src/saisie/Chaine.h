@@ -1,6 +1,6 @@
 #pragma once
 
-#include "saisie/Vue_Saisie.h"
+#include "saisie/Saisie.h"
 
 struct Poste;
 
@@ -8,12 +8,12 @@ struct Poste;
 // focus.
 
 /// Enter in `champ`, Dip_A to QSL_A.
-void Entree(Poste &poste, Vue_Saisie &vue, Controle champ);
+void Entree(Poste &poste, Saisie &saisie, Controle champ);
 
 /// Before any key of `champ`; false drops the key: there is no call sign yet, or behind Dip_A no log to write to, and
 /// the operator was told.
-bool Accepte_Touche(Poste &poste, Vue_Saisie &vue, Controle champ);
+bool Accepte_Touche(Poste &poste, Saisie &saisie, Controle champ);
 /// Before a key that types or erases a character: the separators of date and time come by themselves.
-void Avant_Touche(const Poste &poste, Vue_Saisie &vue, Controle champ, bool retour_arriere);
+void Avant_Touche(Saisie &saisie, Controle champ, bool retour_arriere);
 /// After `champ` took a key other than Enter.
-void Apres_Touche(Poste &poste, Vue_Saisie &vue, Controle champ);
+void Apres_Touche(Poste &poste, Saisie &saisie, Controle champ);

@@ -10,7 +10,7 @@
 #include "plateforme/Ecrans.h"
 #include "plateforme/Tolere.h"
 #include "saisie/Choix_Retenu.h"
-#include "saisie/Vue_Saisie.h"
+#include "saisie/Saisie.h"
 
 #include <algorithm>
 
@@ -60,7 +60,7 @@ void Cree_Logs(Poste &poste, QStringView indicatif)
     cree(diplome_de_la_station);
 }
 
-void Change_Station(Poste &poste, Vue_Saisie &vue, const QString &indicatif)
+void Change_Station(Poste &poste, Saisie &saisie, const QString &indicatif)
 {
     // A disk that does not answer is not a new station: the question fails before anything is changed.
     const bool connue = Connait_Log(poste.dossier, indicatif, diplome_de_la_station);
@@ -69,8 +69,8 @@ void Change_Station(Poste &poste, Vue_Saisie &vue, const QString &indicatif)
     if (!connue)
         Installe_Nouvelle_Station(poste);
     Tolere([&] { Ecrit_General(poste, cles::indicatif_station, indicatif); });
-    vue.Ecrit(Controle::I_Station, QString(indicatif).replace(u'_', u'/'));
-    Reprend_Bande_Et_Mode(poste, vue);
+    saisie.Ecrit(Controle::I_Station, QString(indicatif).replace(u'_', u'/'));
+    Reprend_Bande_Et_Mode(poste, saisie);
     Lit_Annees_Challenge(poste);
     Tolere([&] { Charge_Log(poste, poste.etat.station.diplome); });
     poste.ecrans.Suit_La_Station();

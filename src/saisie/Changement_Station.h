@@ -3,7 +3,7 @@
 #include "saisie/Refus.h"
 
 struct Poste;
-class Vue_Saisie;
+class Saisie;
 
 /// The check of a station's call sign, in capitals and with `_` for `/`: 1 to 12 digits, capital letters and `_`.
 Refus Refus_Indicatif_Station(QStringView indicatif);
@@ -17,4 +17,4 @@ void Cree_Logs(Poste &poste, QStringView indicatif);
 /// Switches to a station whose call sign passed its check; one without a DFCF log is new and gets its logs and
 /// settings. A failure of a file is passed over, so that a log that is missing leaves the list empty; but where the
 /// disk does not say whether the station is known, Erreur_Execution is thrown and nothing changed.
-void Change_Station(Poste &poste, Vue_Saisie &vue, const QString &indicatif);
+void Change_Station(Poste &poste, Saisie &saisie, const QString &indicatif);

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "saisie/Vue_Saisie.h"
+#include "saisie/Saisie.h"
 
 #include <QStringView>
 
@@ -10,9 +10,9 @@ struct Poste;
 
 /// Stores the place of a combo under `cle`, unless a QSO is on display or under edit: what an edit passes through is
 /// not the choice for the next QSO. A free text is stored as -1.
-void Retient_Choix(Poste &poste, const Vue_Saisie &vue, Controle combo, QStringView cle);
+void Retient_Choix(Poste &poste, const Saisie &saisie, Controle combo, QStringView cle);
 /// Selects the entry stored under `cle`; a stored text that is no place of the combo leaves the selection as it is.
-void Reprend_Choix(const Poste &poste, Vue_Saisie &vue, Controle combo, QStringView cle);
+void Reprend_Choix(const Poste &poste, Saisie &saisie, Controle combo, QStringView cle);
 
 /// Band and mode of the station, as a commit and a change of station take them up again.
-void Reprend_Bande_Et_Mode(const Poste &poste, Vue_Saisie &vue);
+void Reprend_Bande_Et_Mode(const Poste &poste, Saisie &saisie);

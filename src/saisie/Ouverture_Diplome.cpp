@@ -3,6 +3,7 @@
 #include "log/Catalogue.h"
 #include "log/Charge_Log.h"
 #include "log/Cles.h"
+#include "log/Ecran_Principal.h"
 #include "log/Etat_Commun.h"
 #include "log/Log_De_Cote.h"
 #include "log/Notice.h"
@@ -14,7 +15,8 @@
 #include "plateforme/Reglages.h"
 #include "saisie/Choix_Retenu.h"
 #include "saisie/Refus.h"
-#include "saisie/Vue_Saisie.h"
+#include "saisie/Repos.h"
+#include "saisie/Saisie.h"
 
 #include <utility>
 
@@ -58,15 +60,15 @@ void Previent_Liste_FFF(Poste &poste)
                              u"Allez dans 'Outils' et 'Mise à jour des references FFF'"_s);
 }
 
-void Ecrit_Habillage(Vue_Saisie &vue, const Habillage &habillage)
+void Ecrit_Habillage(Saisie &saisie, const Habillage &habillage)
 {
-    vue.Ecrit(Controle::Frame3, habillage.frame3.toString());
-    vue.Ecrit(Controle::Detail, habillage.detail.toString());
+    saisie.Ecrit(Controle::Frame3, habillage.frame3.toString());
+    saisie.Ecrit(Controle::Detail, habillage.detail.toString());
     if (habillage.detail_1)
-        vue.Ecrit(Controle::Detail_1, habillage.detail_1->toString());
+        saisie.Ecrit(Controle::Detail_1, habillage.detail_1->toString());
     if (habillage.nom_l)
-        vue.Ecrit(Controle::Nom_L, habillage.nom_l->toString());
-    vue.Ecrit(Controle::Label1, habillage.label1.toString());
+        saisie.Ecrit(Controle::Nom_L, habillage.nom_l->toString());
+    saisie.Ecrit(Controle::Label1, habillage.label1.toString());
 }
 
 /// False if the operator closed the choice of a year without making one, and there is no log to show.
@@ -81,58 +83,59 @@ bool Choisit_Annee_Challenge(Poste &poste, const Challenge &challenge)
     return annee != annee_absente || poste.dossier.Existe(poste.etat.station.Log(challenge.diplome));
 }
 
-bool Habille_Challenge(Poste &poste, Vue_Saisie &vue, const Challenge &challenge, const Habillage &habillage)
+bool Habille_Challenge(Poste &poste, Saisie &saisie, const Challenge &challenge, const Habillage &habillage)
 {
     if (!Choisit_Annee_Challenge(poste, challenge))
         return false;
-    Ecrit_Habillage(vue, habillage);
-    vue.Ecrit(Controle::Frame3, habillage.frame3 + *poste.etat.station.Annee(challenge.diplome));
+    Ecrit_Habillage(saisie, habillage);
+    saisie.Ecrit(Controle::Frame3, habillage.frame3 + *poste.etat.station.Annee(challenge.diplome));
     if (poste.reglages.Lit_Trelune(u"Setup"_s, cles::chemin_repertoire.toString(), u"Absent"_s) != u"Absent")
-        vue.Ecrit(Controle::Detail_1, u"Mise a jour via Trelune"_s);
+        saisie.Ecrit(Controle::Detail_1, u"Mise a jour via Trelune"_s);
     poste.boites.Message(challenge.rappel.toString());
     return true;
 }
 
-bool Habille(Poste &poste, Vue_Saisie &vue, Diplome diplome)
+bool Habille(Poste &poste, Saisie &saisie, Diplome diplome)
 {
     const Habillage &habillage = Notice_De(diplome).habillage;
     for (const Challenge &challenge : challenges)
         if (challenge.diplome == diplome)
-            return Habille_Challenge(poste, vue, challenge, habillage);
+            return Habille_Challenge(poste, saisie, challenge, habillage);
     if (diplome == Diplome::FFF)
         Previent_Liste_FFF(poste);
-    Ecrit_Habillage(vue, habillage);
+    Ecrit_Habillage(saisie, habillage);
     return true;
 }
 
 /// Dip_A shows a code in its own form, whatever its case was typed.
-void Met_Dip_En_Forme(Vue_Saisie &vue)
+void Met_Dip_En_Forme(Saisie &saisie)
 {
-    if (vue.Texte(Controle::Dip_A) != vue.Dip_A())
-        vue.Ecrit(Controle::Dip_A, vue.Dip_A());
+    const std::optional<Diplome> diplome = saisie.Dip_A();
+    if (diplome && saisie.Texte(Controle::Dip_A) != Code(*diplome))
+        saisie.Ecrit(Controle::Dip_A, Code(*diplome).toString());
 }
 
-void Repart_De_Zero(Poste &poste, Vue_Saisie &vue)
+void Repart_De_Zero(Poste &poste, Saisie &saisie)
 {
-    Retient_Choix(poste, vue, Controle::Dip_A, cles::diplome_utilise);
-    vue.Selectionne_Derniere();
-    vue.Efface_Saisie();
+    Retient_Choix(poste, saisie, Controle::Dip_A, cles::diplome_utilise);
+    poste.ecran.Selectionne_Derniere();
+    Efface_Champs(saisie);
 }
 
 } // namespace
 
-bool A_Un_Log_Ouvert(Poste &poste, Vue_Saisie &vue)
+bool A_Un_Log_Ouvert(Poste &poste, Saisie &saisie)
 {
     if (poste.dossier.Existe(poste.etat.station.Log_Courant()))
         return true;
     poste.boites.Message(u"Selectionnez un diplome"_s);
-    vue.Donne_Focus(Controle::Dip_A);
+    saisie.Donne_Focus(Controle::Dip_A);
     return false;
 }
 
-bool Montre_Un_Log(Poste &poste, Vue_Saisie &vue)
+bool Montre_Un_Log(Poste &poste, Saisie &saisie)
 {
-    return !vue.Liste_QSO().empty() || A_Un_Log_Ouvert(poste, vue);
+    return !poste.ecran.Liste_QSO().empty() || A_Un_Log_Ouvert(poste, saisie);
 }
 
 bool Accepte_Touche_Dip(Poste &poste)
@@ -143,36 +146,36 @@ bool Accepte_Touche_Dip(Poste &poste)
     return false;
 }
 
-void Ouvre_Diplome(Poste &poste, Vue_Saisie &vue)
+void Ouvre_Diplome(Poste &poste, Saisie &saisie)
 {
-    Met_Dip_En_Forme(vue);
-    const std::optional<Diplome> diplome = Diplome_De(vue.Dip_A());
+    Met_Dip_En_Forme(saisie);
+    const std::optional<Diplome> diplome = saisie.Dip_A();
     if (!diplome) {
         poste.boites.Message(u"Selectionnez un diplome"_s);
         return;
     }
     const std::optional<Diplome> precedent = std::exchange(poste.etat.station.diplome, diplome);
-    if (!Habille(poste, vue, *diplome)) {
+    if (!Habille(poste, saisie, *diplome)) {
         poste.etat.station.diplome = precedent;
-        vue.Ecrit(Controle::Dip_A, Code(precedent).toString());
+        saisie.Ecrit(Controle::Dip_A, Code(precedent).toString());
         return;
     }
-    vue.Efface_Saisie();
+    Efface_Champs(saisie);
     Retablit_Ou_Dit(poste, poste.etat.station.indicatif, diplome);
     Charge_Log(poste, diplome);
     poste.etat.station.diplome = diplome;
     poste.ecrans.Suit_Le_Log();
-    vue.Ecrit(Controle::Type_Ref, Type_Ref(diplome).toString());
-    vue.Active(Controle::Bande_A, true);
-    vue.Donne_Focus(Controle::Bande_A);
-    Repart_De_Zero(poste, vue);
+    saisie.Ecrit(Controle::Type_Ref, Type_Ref(diplome).toString());
+    saisie.Active(Controle::Bande_A, true);
+    saisie.Donne_Focus(Controle::Bande_A);
+    Repart_De_Zero(poste, saisie);
 }
 
-void Touche_Dip(Poste &poste, Vue_Saisie &vue)
+void Touche_Dip(Poste &poste, Saisie &saisie)
 {
-    Met_Dip_En_Forme(vue);
-    Repart_De_Zero(poste, vue);
+    Met_Dip_En_Forme(saisie);
+    Repart_De_Zero(poste, saisie);
     // The focus goes back to where the operator is typing: the next letter of the code would land in the band.
-    vue.Donne_Focus(Controle::Dip_A);
-    vue.Curseur_A_La_Fin(Controle::Dip_A);
+    saisie.Donne_Focus(Controle::Dip_A);
+    saisie.Curseur_A_La_Fin(Controle::Dip_A);
 }

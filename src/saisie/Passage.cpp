@@ -10,11 +10,11 @@ bool Passe(Poste &poste, const Refus &refus)
     return !refus;
 }
 
-void Avance(Vue_Saisie &vue, Controle suivant)
+void Avance(Saisie &saisie, Controle suivant)
 {
-    vue.Active(suivant, true);
-    vue.Donne_Focus(suivant);
+    saisie.Active(suivant, true);
+    saisie.Donne_Focus(suivant);
     // The name begins with the award's prefix, which the operator types behind.
     if (suivant == Controle::Nom_A)
-        vue.Curseur_A_La_Fin(suivant);
+        saisie.Curseur_A_La_Fin(suivant);
 }

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "saisie/Refus.h"
-#include "saisie/Vue_Saisie.h"
+#include "saisie/Saisie.h"
 
 struct Poste;
 
@@ -9,4 +9,4 @@ struct Poste;
 bool Passe(Poste &poste, const Refus &refus);
 
 /// Enables the next control of the chain and gives it the focus.
-void Avance(Vue_Saisie &vue, Controle suivant);
+void Avance(Saisie &saisie, Controle suivant);

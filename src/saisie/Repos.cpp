@@ -1,63 +1,62 @@
 #include "saisie/Repos.h"
 
-#include "log/Etat_Commun.h"
-#include "saisie/Vue_Saisie.h"
+#include "saisie/Saisie.h"
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
-void Vide_Et_Ferme(Vue_Saisie &vue, Controle champ)
+void Vide_Et_Ferme(Saisie &saisie, Controle champ)
 {
-    vue.Ecrit(champ, QString());
-    vue.Active(champ, false);
+    saisie.Ecrit(champ, QString());
+    saisie.Active(champ, false);
 }
 
-void Vide_Les_Champs(Vue_Saisie &vue, bool bande_active)
+void Vide_Les_Champs(Saisie &saisie, bool bande_active)
 {
-    vue.Ecrit(Controle::Ind_A, QString());
-    vue.Active(Controle::Ind_A, true);
+    saisie.Ecrit(Controle::Ind_A, QString());
+    saisie.Active(Controle::Ind_A, true);
     for (const Controle champ : {Controle::Dpt_A, Controle::Ref_A, Controle::Date_A, Controle::Heure_A})
-        Vide_Et_Ferme(vue, champ);
-    vue.Active(Controle::Mode_A, false);
-    vue.Active(Controle::Bande_A, bande_active);
-    Reports_Selon_Mode(vue);
-    vue.Active(Controle::RSTR_A, false);
-    vue.Active(Controle::RSTE_A, false);
-    vue.Coche_QSL(false);
-    vue.Active(Controle::QSL_A, false);
-    Vide_Et_Ferme(vue, Controle::Prenom_A);
-    Vide_Et_Ferme(vue, Controle::Nom_A);
+        Vide_Et_Ferme(saisie, champ);
+    saisie.Active(Controle::Mode_A, false);
+    saisie.Active(Controle::Bande_A, bande_active);
+    Reports_Selon_Mode(saisie);
+    saisie.Active(Controle::RSTR_A, false);
+    saisie.Active(Controle::RSTE_A, false);
+    saisie.Coche(Controle::QSL_A, false);
+    saisie.Active(Controle::QSL_A, false);
+    Vide_Et_Ferme(saisie, Controle::Prenom_A);
+    Vide_Et_Ferme(saisie, Controle::Nom_A);
 }
 
-void Finit(Etat_Commun &etat, Vue_Saisie &vue)
+void Finit(Saisie &saisie)
 {
-    vue.Active(Controle::Valide_A, false);
-    vue.Active(Controle::Annule_Saisie, false);
-    etat.qso_affiche = false;
-    vue.Ecrit(Controle::Mode_Aff, u"Saisie QSO"_s);
+    saisie.Active(Controle::Valide_A, false);
+    saisie.Active(Controle::Annule_Saisie, false);
+    saisie.qso_affiche = false;
+    saisie.Ecrit(Controle::Mode_Aff, u"Saisie QSO"_s);
 }
 
 } // namespace
 
-void Efface_Tout(Etat_Commun &etat, Vue_Saisie &vue)
+void Efface_Tout(Saisie &saisie)
 {
-    Vide_Les_Champs(vue, false);
-    etat.qso_en_edition = false;
-    vue.Donne_Focus(Controle::Dip_A);
-    Finit(etat, vue);
+    Vide_Les_Champs(saisie, false);
+    saisie.qso_en_edition = false;
+    saisie.Donne_Focus(Controle::Dip_A);
+    Finit(saisie);
 }
 
-void Efface_Champs(Etat_Commun &etat, Vue_Saisie &vue)
+void Efface_Champs(Saisie &saisie)
 {
-    Vide_Les_Champs(vue, true);
-    vue.Donne_Focus(Controle::Bande_A);
-    Finit(etat, vue);
+    Vide_Les_Champs(saisie, true);
+    saisie.Donne_Focus(Controle::Bande_A);
+    Finit(saisie);
 }
 
-void Reports_Selon_Mode(Vue_Saisie &vue)
+void Reports_Selon_Mode(Saisie &saisie)
 {
-    const QString report = vue.Texte(Controle::Mode_A) == u"CW" ? u"599"_s : u"59"_s;
-    vue.Ecrit(Controle::RSTR_A, report);
-    vue.Ecrit(Controle::RSTE_A, report);
+    const QString report = saisie.Texte(Controle::Mode_A) == u"CW" ? u"599"_s : u"59"_s;
+    saisie.Ecrit(Controle::RSTR_A, report);
+    saisie.Ecrit(Controle::RSTE_A, report);
 }

@@ -21,9 +21,9 @@ Refus Refus_Longueur_Generale(QStringView ref)
 }
 
 /// In deferred entry repeats pass, so that a log can be completed out of order.
-Refus Refus_Repetition(const Poste &poste, const QString &ref)
+Refus Refus_Repetition(const Poste &poste, const Saisie &saisie, const QString &ref)
 {
-    if (poste.etat.QSO_Touche() || poste.etat.saisie_differee)
+    if (saisie.QSO_Touche() || saisie.saisie_differee)
         return std::nullopt;
     const Trouvaille trouvaille = Cherche_Ref(poste, poste.etat.station.diplome, ref);
     if (!trouvaille.oui)
@@ -52,15 +52,15 @@ Reference_Trouvee Recherche(Poste &poste, QStringView ref)
     return {};
 }
 
-void Remplit_Dpt(Vue_Saisie &vue, const Regle_Ref &regle, const Reference_Trouvee &trouvee, QStringView ref)
+void Remplit_Dpt(Saisie &saisie, const Regle_Ref &regle, const Reference_Trouvee &trouvee, QStringView ref)
 {
     if (regle.dpt == Source_Dpt::Inchange)
         return;
     const bool recherche = regle.dpt == Source_Dpt::Recherche;
-    vue.Ecrit(Controle::Dpt_A, recherche ? trouvee.dpt.value_or(QString()) : Dpt_De_Ref(regle.dpt, ref));
+    saisie.Ecrit(Controle::Dpt_A, recherche ? trouvee.dpt.value_or(QString()) : Dpt_De_Ref(regle.dpt, ref));
 }
 
-void Remplit_Nom(Vue_Saisie &vue, const Regle_Ref &regle, const Reference_Trouvee &trouvee)
+void Remplit_Nom(Saisie &saisie, const Regle_Ref &regle, const Reference_Trouvee &trouvee)
 {
     if (!regle.nom)
         return;
@@ -69,20 +69,20 @@ void Remplit_Nom(Vue_Saisie &vue, const Regle_Ref &regle, const Reference_Trouve
         nom = Majuscules_1252(nom);
     if (regle.nom->coupe)
         nom.truncate(*regle.nom->coupe);
-    vue.Ecrit(Controle::Nom_A, nom);
+    saisie.Ecrit(Controle::Nom_A, nom);
 }
 
 /// The prefix replaces what the look-up found: the operator types the name behind it.
-void Pose_Prefixe(const Poste &poste, Vue_Saisie &vue, const Regle_Ref &regle)
+void Pose_Prefixe(Saisie &saisie, const Regle_Ref &regle)
 {
-    if (regle.prefixe.isEmpty() || (poste.etat.QSO_Touche() && !regle.prefixe_en_edition))
+    if (regle.prefixe.isEmpty() || (saisie.QSO_Touche() && !regle.prefixe_en_edition))
         return;
-    vue.Ecrit(Controle::Nom_A, regle.prefixe.toString());
-    vue.Curseur_A_La_Fin(Controle::Nom_A);
+    saisie.Ecrit(Controle::Nom_A, regle.prefixe.toString());
+    saisie.Curseur_A_La_Fin(Controle::Nom_A);
 }
 
 /// False if the reference was refused.
-bool Applique_Regle(Poste &poste, Vue_Saisie &vue, Diplome diplome, const QString &ref)
+bool Applique_Regle(Poste &poste, Saisie &saisie, Diplome diplome, const QString &ref)
 {
     const Regle_Ref &regle = *Regle_Ref_De(diplome);
     if (!Passe(poste, Refus_Forme_Ref(diplome, ref)))
@@ -90,21 +90,21 @@ bool Applique_Regle(Poste &poste, Vue_Saisie &vue, Diplome diplome, const QStrin
     const Reference_Trouvee trouvee = Recherche(poste, ref);
     if (diplome == Diplome::DCF && trouvee.dpt.value_or(QString()).isEmpty())
         poste.boites.Message(u"Référence non trouvée, cliquez sur le bouton 'Liste Cathédrales'"_s);
-    Remplit_Dpt(vue, regle, trouvee, ref);
-    Remplit_Nom(vue, regle, trouvee);
-    Pose_Prefixe(poste, vue, regle);
+    Remplit_Dpt(saisie, regle, trouvee, ref);
+    Remplit_Nom(saisie, regle, trouvee);
+    Pose_Prefixe(saisie, regle);
     return true;
 }
 
 } // namespace
 
-void Entree_Ref(Poste &poste, Vue_Saisie &vue)
+void Entree_Ref(Poste &poste, Saisie &saisie)
 {
-    const QString ref = vue.Texte(Controle::Ref_A);
-    if (!Passe(poste, Refus_Longueur_Generale(ref)) || !Passe(poste, Refus_Repetition(poste, ref)))
+    const QString ref = saisie.Texte(Controle::Ref_A);
+    if (!Passe(poste, Refus_Longueur_Generale(ref)) || !Passe(poste, Refus_Repetition(poste, saisie, ref)))
         return;
     const std::optional<Diplome> diplome = poste.etat.station.diplome;
-    if (Regle_Ref_De(diplome) && !Applique_Regle(poste, vue, *diplome, ref))
+    if (Regle_Ref_De(diplome) && !Applique_Regle(poste, saisie, *diplome, ref))
         return;
-    Avance(vue, Controle::Dpt_A);
+    Avance(saisie, Controle::Dpt_A);
 }

@@ -41,12 +41,12 @@ constexpr Limite limites[] = {
 };
 // clang-format on
 
-bool Tient(Poste &poste, Vue_Saisie &vue, Controle champ, const Refus &refus)
+bool Tient(Poste &poste, Saisie &saisie, Controle champ, const Refus &refus)
 {
     if (Passe(poste, refus))
         return true;
-    vue.Active(champ, true);
-    vue.Donne_Focus(champ);
+    saisie.Active(champ, true);
+    saisie.Donne_Focus(champ);
     return false;
 }
 
@@ -61,109 +61,108 @@ Refus Refus_Longueur_Heure(const QString &heure)
 }
 
 /// False if a field does not fit its columns: the operator was told and stands in that field.
-bool Tient_Dans_Les_Colonnes(Poste &poste, Vue_Saisie &vue)
+bool Tient_Dans_Les_Colonnes(Poste &poste, Saisie &saisie)
 {
     for (const Limite &limite : limites) {
-        const bool trop_long = vue.Texte(limite.champ).size() > limite.maximum;
-        if (!Tient(poste, vue, limite.champ, trop_long ? Refus(limite.refus.toString()) : std::nullopt))
+        const bool trop_long = saisie.Texte(limite.champ).size() > limite.maximum;
+        if (!Tient(poste, saisie, limite.champ, trop_long ? Refus(limite.refus.toString()) : std::nullopt))
             return false;
     }
-    return Tient(poste, vue, Controle::Date_A, Refus_Longueur_Date(vue.Texte(Controle::Date_A))) &&
-           Tient(poste, vue, Controle::Heure_A, Refus_Longueur_Heure(vue.Texte(Controle::Heure_A)));
+    return Tient(poste, saisie, Controle::Date_A, Refus_Longueur_Date(saisie.Texte(Controle::Date_A))) &&
+           Tient(poste, saisie, Controle::Heure_A, Refus_Longueur_Heure(saisie.Texte(Controle::Heure_A)));
 }
 
 /// A new QSO goes to the log that Dip_A names, so that text must be an award.
-bool Nomme_Un_Log(Poste &poste, Vue_Saisie &vue)
+bool Nomme_Un_Log(Poste &poste, Saisie &saisie)
 {
-    const bool ajoute = !poste.etat.qso_affiche && !poste.etat.saisie_differee;
-    const bool sans_log = ajoute && !Diplome_De(vue.Dip_A());
-    return Tient(poste, vue, Controle::Dip_A, sans_log ? Refus(u"Selectionnez un diplome"_s) : std::nullopt);
+    const bool ajoute = !saisie.qso_affiche && !saisie.saisie_differee;
+    const bool sans_log = ajoute && !saisie.Dip_A();
+    return Tient(poste, saisie, Controle::Dip_A, sans_log ? Refus(u"Selectionnez un diplome"_s) : std::nullopt);
 }
 
 /// A log that vanished since it was shown is not begun anew without a word: the operator may have another copy of it.
-bool Garde_Son_Log(Poste &poste, Vue_Saisie &vue)
+bool Garde_Son_Log(Poste &poste, Saisie &saisie)
 {
-    const bool ajoute = !poste.etat.qso_affiche && !poste.etat.saisie_differee;
+    const bool ajoute = !saisie.qso_affiche && !saisie.saisie_differee;
     const QString nom = poste.etat.station.Log_Courant();
-    if ((ajoute && vue.Dip_A() != Code(poste.etat.station.diplome)) || poste.dossier.Existe(nom))
+    if ((ajoute && saisie.Dip_A() != poste.etat.station.diplome) || poste.dossier.Existe(nom))
         return true;
     if (ajoute)
         return poste.boites.Question(u"Le log "_s + nom +
                                      u" n'existe plus.\n"
                                      u"Voulez vous enregistrer ce QSO dans un nouveau log ?");
-    return Tient(poste, vue, Controle::Dip_A, u"Selectionnez un diplome"_s);
+    return Tient(poste, saisie, Controle::Dip_A, u"Selectionnez un diplome"_s);
 }
 
-void Retient_Prenom(Poste &poste, Vue_Saisie &vue)
+void Retient_Prenom(Poste &poste, Saisie &saisie)
 {
-    if (!poste.etat.prenom_nouveau)
+    if (!saisie.prenom_nouveau)
         return;
-    const QString prenom = Majuscules_1252(vue.Texte(Controle::Prenom_A));
-    vue.Ecrit(Controle::Prenom_A, prenom);
-    Maj_Prenom(poste.dossier,
-               QString(Complete(vue.Texte(Controle::Ind_A), 13) + Complete(vue.Texte(Controle::Dpt_A), 3) + prenom));
+    const QString prenom = Majuscules_1252(saisie.Texte(Controle::Prenom_A));
+    saisie.Ecrit(Controle::Prenom_A, prenom);
+    Maj_Prenom(poste.dossier, QString(Complete(saisie.Texte(Controle::Ind_A), 13) +
+                                      Complete(saisie.Texte(Controle::Dpt_A), 3) + prenom));
 }
 
-QString Compose(Vue_Saisie &vue)
+QString Compose(Saisie &saisie)
 {
-    if (vue.Texte(Controle::Nom_A).size() > col::Nom.largeur)
-        vue.Ecrit(Controle::Nom_A, vue.Texte(Controle::Nom_A).left(col::Nom.largeur));
-    return Compose_Ligne_Log({.ind = vue.Texte(Controle::Ind_A),
-                              .dpt = vue.Texte(Controle::Dpt_A),
-                              .prenom = vue.Texte(Controle::Prenom_A),
-                              .ref = vue.Texte(Controle::Ref_A),
-                              .date = vue.Texte(Controle::Date_A),
-                              .heure = vue.Texte(Controle::Heure_A),
-                              .mode = vue.Texte(Controle::Mode_A),
-                              .bande = vue.Texte(Controle::Bande_A),
-                              .rstr = vue.Texte(Controle::RSTR_A),
-                              .rste = vue.Texte(Controle::RSTE_A),
-                              .nom = vue.Texte(Controle::Nom_A),
-                              .qsl = vue.QSL_Coche() ? qsl_tenue.toString() : u" "_s});
+    if (saisie.Texte(Controle::Nom_A).size() > col::Nom.largeur)
+        saisie.Ecrit(Controle::Nom_A, saisie.Texte(Controle::Nom_A).left(col::Nom.largeur));
+    return Compose_Ligne_Log({.ind = saisie.Texte(Controle::Ind_A),
+                              .dpt = saisie.Texte(Controle::Dpt_A),
+                              .prenom = saisie.Texte(Controle::Prenom_A),
+                              .ref = saisie.Texte(Controle::Ref_A),
+                              .date = saisie.Texte(Controle::Date_A),
+                              .heure = saisie.Texte(Controle::Heure_A),
+                              .mode = saisie.Texte(Controle::Mode_A),
+                              .bande = saisie.Texte(Controle::Bande_A),
+                              .rstr = saisie.Texte(Controle::RSTR_A),
+                              .rste = saisie.Texte(Controle::RSTE_A),
+                              .nom = saisie.Texte(Controle::Nom_A),
+                              .qsl = saisie.Est_Coche(Controle::QSL_A) ? qsl_tenue.toString() : u" "_s});
 }
 
-bool Range(Poste &poste, const Vue_Saisie &vue, const QString &ligne)
+bool Range(Poste &poste, const Saisie &saisie, const QString &ligne)
 {
-    if (poste.etat.qso_affiche)
-        return Remplace_Ligne(poste, ligne, Ligne_Log_Affichee(poste.etat.ligne_selectionnee));
-    if (!poste.etat.saisie_differee)
-        return Ajoute_Ligne(poste, ligne, Diplome_De(vue.Dip_A()).value());
+    if (saisie.qso_affiche)
+        return Remplace_Ligne(poste, ligne, Ligne_Log_Affichee(saisie.ligne_selectionnee));
+    if (!saisie.saisie_differee)
+        return Ajoute_Ligne(poste, ligne, saisie.Dip_A().value());
     return Insere_Ligne(poste, ligne);
 }
 
 /// The next QSO starts at Ind_A; award, band and mode stay.
-void Prepare_Le_Suivant(Poste &poste, Vue_Saisie &vue)
+void Prepare_Le_Suivant(Poste &poste, Saisie &saisie)
 {
-    poste.etat.qso_affiche = false;
-    vue.Ecrit(Controle::Mode_Aff, u"Saisie QSO"_s);
-    poste.etat.qso_en_edition = false;
+    saisie.qso_affiche = false;
+    saisie.Ecrit(Controle::Mode_Aff, u"Saisie QSO"_s);
+    saisie.qso_en_edition = false;
     for (const Controle champ : {Controle::Ind_A, Controle::Dpt_A, Controle::Prenom_A, Controle::Ref_A,
                                  Controle::Date_A, Controle::Heure_A, Controle::Nom_A})
-        vue.Ecrit(champ, QString());
-    Reports_Selon_Mode(vue);
-    vue.Coche_QSL(false);
-    vue.Active(Controle::Ind_A, true);
-    vue.Donne_Focus(Controle::Ind_A);
+        saisie.Ecrit(champ, QString());
+    Reports_Selon_Mode(saisie);
+    saisie.Coche(Controle::QSL_A, false);
+    saisie.Active(Controle::Ind_A, true);
+    saisie.Donne_Focus(Controle::Ind_A);
     for (const Controle champ :
          {Controle::Dpt_A, Controle::Prenom_A, Controle::Ref_A, Controle::Date_A, Controle::Heure_A, Controle::Mode_A,
           Controle::RSTR_A, Controle::RSTE_A, Controle::Nom_A, Controle::QSL_A, Controle::Valide_A})
-        vue.Active(champ, false);
-    Reprend_Bande_Et_Mode(poste, vue);
+        saisie.Active(champ, false);
+    Reprend_Bande_Et_Mode(poste, saisie);
 }
 
 } // namespace
 
-void Valide_QSO(Poste &poste, Vue_Saisie &vue)
+void Valide_QSO(Poste &poste, Saisie &saisie)
 {
-    if (!Montre_Un_Log(poste, vue) || !Nomme_Un_Log(poste, vue) || !Tient_Dans_Les_Colonnes(poste, vue))
+    if (!Montre_Un_Log(poste, saisie) || !Nomme_Un_Log(poste, saisie) || !Tient_Dans_Les_Colonnes(poste, saisie))
         return;
     if (!poste.boites.Question(u"Voulez vous enregistrer ces données ?"_s))
         return;
-    if (!Garde_Son_Log(poste, vue))
+    if (!Garde_Son_Log(poste, saisie))
         return;
-    Retient_Prenom(poste, vue);
-    if (!Range(poste, vue, Compose(vue)))
+    Retient_Prenom(poste, saisie);
+    if (!Range(poste, saisie, Compose(saisie)))
         return;
-    vue.Selectionne_Derniere();
-    Prepare_Le_Suivant(poste, vue);
+    Prepare_Le_Suivant(poste, saisie);
 }

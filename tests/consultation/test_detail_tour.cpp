@@ -53,7 +53,7 @@ TEST(Charge_Tour, une_liste_absente_ou_une_ligne_courte_est_un_echec)
 TEST(Reference_Tour, six_caracteres_de_la_ligne_de_saisie_et_non_du_QSO_choisi)
 {
     Poste_Essai essai;
-    essai.etat.ligne_selectionnee = Ligne_Affichage(1, QSO({.ref = u"12-099"_s}));
+    essai.ecran.ligne_selectionnee = Ligne_Affichage(1, QSO({.ref = u"12-099"_s}));
     EXPECT_EQ(Reference_Tour(essai.poste), u""_s);
     essai.ecran.ref_a = u"11-008xyz"_s;
     EXPECT_EQ(Reference_Tour(essai.poste), u"11-008"_s);

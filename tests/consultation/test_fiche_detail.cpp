@@ -49,7 +49,7 @@ TEST(Detail_DFCF, un_code_postal_de_quatre_caracteres_recoit_son_zero)
 TEST(Detail_DFCF, la_reference_du_log_est_coupee_a_7)
 {
     Poste_Essai essai;
-    essai.etat.ligne_selectionnee = Ligne_Affichage(1, QSO({.ref = u"770011234"_s}));
+    essai.ecran.ligne_selectionnee = Ligne_Affichage(1, QSO({.ref = u"770011234"_s}));
     EXPECT_EQ(Reference_Selectionnee(essai.poste, fiche_detail_dfcf), u"7700112"_s);
     EXPECT_EQ(Reference_Selectionnee(essai.poste, fiche_detail_fff), u"770011234"_s);
     EXPECT_EQ(Reference_Selectionnee(essai.poste, fiche_detail_pc), u"770011234"_s);

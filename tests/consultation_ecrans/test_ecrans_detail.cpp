@@ -34,7 +34,7 @@ TEST(Ecran_Detail_DFCF, montre_le_chateau_du_QSO_choisi)
 {
     Poste_Essai essai;
     essai.fichiers.Pose(u"Liste_DFCF.csv"_s, "Rev\r\n63-087;Murol;12/05/07;F5ABC;Murol;63790\r\n");
-    essai.etat.ligne_selectionnee = Ligne_Affichage(3, QSO({.ref = u"63087"_s}));
+    essai.ecran.ligne_selectionnee = Ligne_Affichage(3, QSO({.ref = u"63087"_s}));
     const Detail_DFCF ecran(essai.poste);
     EXPECT_EQ(ecran.objectName(), u"Detail_DFCF"_s);
     EXPECT_EQ(Trouve<QLabel>(ecran, u"Titre"_s)->text(), u"Detail de la référence"_s);
@@ -58,7 +58,7 @@ TEST(Ecran_Detail_FFF, montre_le_site_du_QSO_choisi)
 {
     Poste_Essai essai;
     essai.fichiers.Pose(u"Liste_FFF.csv"_s, "Rev\r\n2;France;FR;FFF-0051;Parc;;;;;\r\n");
-    essai.etat.ligne_selectionnee = Ligne_Affichage(3, QSO({.ref = u"0051"_s}));
+    essai.ecran.ligne_selectionnee = Ligne_Affichage(3, QSO({.ref = u"0051"_s}));
     const Detail_FFF ecran(essai.poste);
     EXPECT_EQ(ecran.objectName(), u"Detail_FFF"_s);
     Verifie_Champs(ecran, {{u"Ref_I"_s, u"Référence"_s, u"FFF-0051"_s},
@@ -70,7 +70,7 @@ TEST(Ecran_Detail_PC, montre_le_monument_du_QSO_choisi)
 {
     Poste_Essai essai;
     essai.fichiers.Pose(u"Liste_PC.csv"_s, "Rev\r\n93-001;Lavoir;x;7;y;93;Montreuil;\r\n");
-    essai.etat.ligne_selectionnee = Ligne_Affichage(3, QSO({.ref = u"93001"_s}));
+    essai.ecran.ligne_selectionnee = Ligne_Affichage(3, QSO({.ref = u"93001"_s}));
     const Detail_PC ecran(essai.poste);
     EXPECT_EQ(ecran.objectName(), u"Detail_PC"_s);
     Verifie_Champs(ecran, {{u"Ref_I"_s, u"Référence"_s, u"PC93001"_s},

@@ -27,6 +27,6 @@ TEST(Ecran_Du_Diplome, chaque_code_a_sa_fiche_ou_son_choix)
 
 TEST(Ecran_Du_Diplome, un_texte_qui_n_est_pas_un_code_n_ouvre_rien)
 {
-    for (const QString &texte : {u""_s, u"dfcf"_s, u"DFCF "_s, u"DMF_HF"_s})
+    for (const QString &texte : {u""_s, u"DFCF "_s, u"DMF_HF"_s})
         EXPECT_EQ(Ecran_Du_Diplome(Diplome_De(texte)), QString()) << texte.toStdString();
 }

@@ -22,16 +22,17 @@ public:
             selection = Ligne_Affichage(rang + 1, liste[rang]);
     }
     [[nodiscard]] QString QSO_Selectionne() const override { return selection; }
+    [[nodiscard]] QString Ligne_Selectionnee() const override { return ligne_selectionnee; }
     void Active_Ind_A() override { appels.push_back(QStringLiteral("Active_Ind_A")); }
-    [[nodiscard]] QString Dip_A() const override { return dip_a; }
+    [[nodiscard]] std::optional<Diplome> Dip_A() const override { return Diplome_De(dip_a); }
     void Va_A_Dip_A() override { appels.push_back(QStringLiteral("Va_A_Dip_A")); }
     [[nodiscard]] QString Ref_A() const override { return ref_a; }
     [[nodiscard]] QString I_Station() const override { return i_station; }
-    void Efface() override { appels.push_back(QStringLiteral("Efface")); }
     void Efface_Saisie() override { appels.push_back(QStringLiteral("Efface_Saisie")); }
 
     Lignes_Texte liste;
     QString selection;
+    QString ligne_selectionnee;
     QString dip_a;
     QString ref_a;
     QString i_station;

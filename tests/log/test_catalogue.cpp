@@ -55,14 +55,6 @@ TEST(Catalogue, les_listes_fixes_sont_dans_leur_ordre)
     EXPECT_EQ(texte.toUtf8(), Attendu(u"listes_fixes.txt"_s));
 }
 
-TEST(Catalogue, un_texte_qui_n_est_pas_un_code)
-{
-    for (const QStringView texte : {u""_s, u"dfcf"_s, u"DFCF "_s, u"DXCC"_s}) {
-        EXPECT_FALSE(Diplome_De(texte));
-    }
-    EXPECT_TRUE(Diplome_De(u"DFCF").has_value());
-}
-
 TEST(Catalogue, les_deux_challenges_ont_une_annee)
 {
     for (const QStringView code : codes_diplome)
@@ -75,11 +67,13 @@ TEST(Historique, chaque_version_derriere_un_saut_de_ligne)
     EXPECT_EQ(version_vorlain, u"V1.2.5c");
 }
 
-TEST(En_Forme_De_Code, un_code_se_reconnait_dans_toute_casse_et_garde_la_sienne)
+TEST(Diplome_De, un_code_se_reconnait_dans_toute_casse)
 {
-    for (const QStringView code : codes_diplome)
-        for (const QString &texte : {code.toString(), code.toString().toUpper(), code.toString().toLower()})
-            EXPECT_EQ(En_Forme_De_Code(texte), code.toString());
-    for (const QString &texte : {u""_s, u"dfc"_s, u"ch_dfcf "_s, u"Xyz"_s})
-        EXPECT_EQ(En_Forme_De_Code(texte), texte);
+    for (const Diplome diplome : tous_les_diplomes) {
+        const QString code = Code(diplome).toString();
+        for (const QString &texte : {code, code.toUpper(), code.toLower()})
+            EXPECT_EQ(Diplome_De(texte), diplome);
+    }
+    for (const QString &texte : {u""_s, u"dfc"_s, u"DFCF "_s, u"DXCC"_s})
+        EXPECT_EQ(Diplome_De(texte), std::nullopt);
 }

@@ -53,9 +53,9 @@ Position &Ouvert(Seance &seance)
 {
     Position &programme = seance.Le_Programme();
     programme.etat.station.diplome = Diplome::DFCF;
-    programme.vue.Choisit(Controle::Dip_A, 6);
+    programme.saisie.Choisit(Controle::Dip_A, 6);
     Charge_Log(programme.poste, Diplome::DFCF);
-    programme.vue.Selectionne_Derniere();
+    programme.ecran.Selectionne_Derniere();
     return programme;
 }
 
@@ -102,13 +102,13 @@ void Reglage(Seance &seance)
 void Nouvelle_Station(Seance &seance)
 {
     Position &programme = Pret(seance);
-    Change_Station(programme.poste, programme.vue, u"F1NEW"_s);
+    Change_Station(programme.poste, programme.saisie, u"F1NEW"_s);
 }
 
 void Station_Connue(Seance &seance)
 {
     Position &programme = Pret(seance);
-    Change_Station(programme.poste, programme.vue, u"F2OLD"_s);
+    Change_Station(programme.poste, programme.saisie, u"F2OLD"_s);
 }
 
 void Demarrage(Seance &seance)
@@ -163,5 +163,5 @@ void Demarre_Le_Programme(Seance &seance)
     Position &programme = seance.Le_Programme();
     if (absent || Station_Retenue(programme.poste) == indicatif_absent)
         Depose_Fichiers_De_Depart(programme.dossier);
-    Demarre(programme.poste, programme.vue);
+    Demarre(programme.poste, programme.saisie, [] {});
 }

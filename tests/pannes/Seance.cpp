@@ -5,7 +5,6 @@
 Position::Position(const QString &donnees) : dossier(donnees)
 {
     etat.station.indicatif = QStringLiteral("F9ZZY");
-    vue.au_clic = [this](const QString &entree) { Clic_Liste(poste, vue, entree); };
 }
 
 Seance::Seance(const Terrain &terrain, const Plan_De_Panne &plan)

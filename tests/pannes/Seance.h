@@ -1,9 +1,11 @@
 #pragma once
 
 #include "Terrain.h"
-#include "faux/Vue_Fausse.h"
+#include "faux/Poste_Essai.h"
 #include "plateforme/qt/Reglages_Qt.h"
 #include "prechargee/Pannes_Fichiers.h"
+#include "saisie/Ecran_Du_Log.h"
+#include "saisie/Saisie.h"
 
 #include <optional>
 
@@ -20,8 +22,9 @@ struct Position {
     Telechargement_Faux telechargement;
     Vues_Web_Fausses vues_web;
     Etat_Commun etat;
-    Vue_Fausse vue{etat};
-    Poste poste{{dossier, reglages, horloge, boites, ecrans, imprimante, telechargement, vues_web}, etat, vue};
+    Saisie saisie;
+    Ecran_Du_Log ecran{saisie};
+    Poste poste{{dossier, reglages, horloge, boites, ecrans, imprimante, telechargement, vues_web}, etat, ecran};
 };
 
 /// One run of the program in a process of its own. Calls are counted from Arme() on.

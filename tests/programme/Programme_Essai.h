@@ -61,6 +61,16 @@ protected:
     {
         return *conduite::Trouve<Widget>(Ecran(), nom);
     }
+    /// What a control of the main screen shows.
+    QString Texte(Controle controle)
+    {
+        const QWidget &widget = Controle_Nomme(Nom(controle));
+        for (const char *texte : {"text", "currentText", "title"})
+            if (widget.property(texte).isValid())
+                return widget.property(texte).toString();
+        return {};
+    }
+    bool Est_Actif(Controle controle) { return Controle_Nomme(Nom(controle)).isEnabled(); }
     /// Types in a field and leaves it with Enter.
     void Saisit(const QString &nom, const QString &texte)
     {

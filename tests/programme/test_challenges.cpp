@@ -63,7 +63,7 @@ TEST_F(Challenges, une_fleche_dans_dip_a_ne_verse_pas_les_chateaux_dans_les_moul
     Ouvre_Les_Chateaux();
     const QByteArray avant = fichiers.Octets(moulins);
     QTest::keyClick(&Controle_Nomme(u"Dip_A"_s), Qt::Key_Down);
-    ASSERT_EQ(Ecran().Dip_A(), u"Ch_DMF"_s);
+    ASSERT_EQ(Texte(Controle::Dip_A), u"Ch_DMF"_s);
     Presse(u"Detail_1"_s);
     EXPECT_EQ(fichiers.Octets(moulins), avant);
     EXPECT_EQ(fichiers.Octets(chateaux), QByteArray()) << "the sibling has no QSO of the year";

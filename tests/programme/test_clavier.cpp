@@ -96,15 +96,15 @@ TEST_F(Clavier, ce_qu_on_tape_remplace_le_texte_du_champ_mais_suit_le_debut_du_n
 {
     Prepare(u"DFCF"_s);
     Frappe_Et_Entre(u"dlf"_s);
-    EXPECT_EQ(Ecran().Texte(Controle::Frame3), u"Diplome des Lavoirs de France"_s);
+    EXPECT_EQ(Texte(Controle::Frame3), u"Diplome des Lavoirs de France"_s);
     Frappe_Et_Entre(u"14.05"_s);
-    EXPECT_EQ(Ecran().Texte(Controle::Bande_A), u"14.05"_s);
+    EXPECT_EQ(Texte(Controle::Bande_A), u"14.05"_s);
     for (const QString &texte : {u"f5abc"_s, u""_s, u"77001"_s, u""_s, u"cw"_s, u"579"_s, u"559"_s, u"vaux"_s})
         Frappe_Et_Entre(texte);
-    EXPECT_EQ(Ecran().Texte(Controle::Mode_A), u"CW"_s);
-    EXPECT_EQ(Ecran().Texte(Controle::RSTR_A), u"579"_s);
-    EXPECT_EQ(Ecran().Texte(Controle::RSTE_A), u"559"_s);
-    EXPECT_EQ(Ecran().Texte(Controle::Nom_A), u"L. VAUX"_s);
+    EXPECT_EQ(Texte(Controle::Mode_A), u"CW"_s);
+    EXPECT_EQ(Texte(Controle::RSTR_A), u"579"_s);
+    EXPECT_EQ(Texte(Controle::RSTE_A), u"559"_s);
+    EXPECT_EQ(Texte(Controle::Nom_A), u"L. VAUX"_s);
 }
 
 TEST_F(Clavier, les_fleches_choisissent_le_diplome_et_la_bande)
@@ -112,11 +112,11 @@ TEST_F(Clavier, les_fleches_choisissent_le_diplome_et_la_bande)
     Prepare(u"DFCF"_s);
     Touche(Qt::Key_Down);
     Touche(Qt::Key_Down);
-    EXPECT_EQ(Ecran().Dip_A(), u"DIFI"_s);
+    EXPECT_EQ(Texte(Controle::Dip_A), u"DIFI"_s);
     EXPECT_EQ(En_Main()->objectName(), u"Dip_A"_s);
     Touche(Qt::Key_Return);
     Touche(Qt::Key_Down);
-    EXPECT_EQ(Ecran().Texte(Controle::Bande_A), u"3.5 Mhz"_s);
+    EXPECT_EQ(Texte(Controle::Bande_A), u"3.5 Mhz"_s);
     EXPECT_EQ(Reglage(section, u"bande Utilisee"_s), u"1"_s);
 }
 
@@ -130,7 +130,7 @@ TEST_F(Clavier, une_bande_libre_se_retient_comme_moins_un_et_revient_vide)
         Frappe_Et_Entre(texte);
     conduite::Repond({u"Oui"_s}, [this] { Touche(Qt::Key_Return); });
     EXPECT_EQ(Lit(fichiers.Octets(u"F9ZZY_DLF.log"_s).isEmpty() ? u""_s : QSO_Affiches()[0], {76, 7}), u"7.123  "_s);
-    EXPECT_EQ(Ecran().Texte(Controle::Bande_A), u""_s);
+    EXPECT_EQ(Texte(Controle::Bande_A), u""_s);
 }
 
 TEST_F(Clavier, entree_dans_la_liste_ouvre_le_qso_pour_le_modifier)
@@ -141,11 +141,11 @@ TEST_F(Clavier, entree_dans_la_liste_ouvre_le_qso_pour_le_modifier)
     Ouvre();
     Controle_Nomme(u"Liste_QSO"_s).setFocus();
     QTest::keyClick(&Controle_Nomme(u"Liste_QSO"_s), Qt::Key_Up);
-    EXPECT_EQ(Ecran().Texte(Controle::Mode_Aff), u"Affichage QSO"_s);
-    EXPECT_EQ(Ecran().Texte(Controle::Ref_A), u"77001"_s);
+    EXPECT_EQ(Texte(Controle::Mode_Aff), u"Affichage QSO"_s);
+    EXPECT_EQ(Texte(Controle::Ref_A), u"77001"_s);
     QTest::keyClick(&Controle_Nomme(u"Liste_QSO"_s), Qt::Key_Return);
-    EXPECT_EQ(Ecran().Texte(Controle::Mode_Aff), u"Modification QSO"_s);
-    EXPECT_TRUE(Ecran().Est_Actif(Controle::Ref_A));
+    EXPECT_EQ(Texte(Controle::Mode_Aff), u"Modification QSO"_s);
+    EXPECT_TRUE(Est_Actif(Controle::Ref_A));
 }
 
 TEST_F(Clavier, un_double_click_passe_par_l_affichage_et_reste_en_modification)
@@ -155,13 +155,13 @@ TEST_F(Clavier, un_double_click_passe_par_l_affichage_et_reste_en_modification)
     Ouvre();
     auto &liste = Controle_Nomme<QAbstractItemView>(u"Liste_QSO"_s);
     conduite::Clique(liste, 0);
-    EXPECT_EQ(Ecran().Texte(Controle::Mode_Aff), u"Affichage QSO"_s);
-    EXPECT_EQ(Ecran().Texte(Controle::Date_A), u"12/05/07  14"_s);
-    EXPECT_FALSE(Ecran().Est_Actif(Controle::Ind_A));
+    EXPECT_EQ(Texte(Controle::Mode_Aff), u"Affichage QSO"_s);
+    EXPECT_EQ(Texte(Controle::Date_A), u"12/05/07  14"_s);
+    EXPECT_FALSE(Est_Actif(Controle::Ind_A));
     conduite::Double_Clique(liste, 0);
     QTest::qWait(20);
-    EXPECT_EQ(Ecran().Texte(Controle::Mode_Aff), u"Modification QSO"_s);
-    EXPECT_EQ(Ecran().Texte(Controle::Date_A), u"12/05/07"_s);
+    EXPECT_EQ(Texte(Controle::Mode_Aff), u"Modification QSO"_s);
+    EXPECT_EQ(Texte(Controle::Date_A), u"12/05/07"_s);
 }
 
 TEST_F(Clavier, les_separateurs_viennent_d_eux_memes_dans_date_et_heure)
@@ -173,12 +173,12 @@ TEST_F(Clavier, les_separateurs_viennent_d_eux_memes_dans_date_et_heure)
     for (const QString &texte : {u""_s, u"f5abc"_s, u""_s, u"77001"_s, u""_s})
         Frappe_Et_Entre(texte);
     Frappe(u"120507"_s);
-    EXPECT_EQ(Ecran().Texte(Controle::Date_A), u"12/05/07"_s);
+    EXPECT_EQ(Texte(Controle::Date_A), u"12/05/07"_s);
     Touche(Qt::Key_Backspace);
-    EXPECT_EQ(Ecran().Texte(Controle::Date_A), u"12/05/0"_s);
+    EXPECT_EQ(Texte(Controle::Date_A), u"12/05/0"_s);
     Frappe_Et_Entre(u"7"_s);
     Frappe_Et_Entre(u"1448"_s);
-    EXPECT_EQ(Ecran().Texte(Controle::Heure_A), u"14:48"_s);
+    EXPECT_EQ(Texte(Controle::Heure_A), u"14:48"_s);
     EXPECT_EQ(En_Main()->objectName(), u"Mode_A"_s);
 }
 
@@ -202,7 +202,7 @@ TEST_F(Clavier, le_tout_premier_qso_d_un_nouvel_operateur)
         EXPECT_EQ(conduite::Repond({}, [&] { QTest::keyClick(&Controle_Nomme(u"Ind_A"_s), touche); }),
                   std::vector<QString>{u"Selectionnez un diplome"_s});
         EXPECT_EQ(En_Main()->objectName(), u"Dip_A"_s);
-        EXPECT_EQ(Ecran().Texte(Controle::Ind_A), QString());
+        EXPECT_EQ(Texte(Controle::Ind_A), QString());
     }
     EXPECT_EQ(fichiers.Fichiers(), avant);
     for (const QString &texte :
@@ -242,10 +242,10 @@ TEST_F(Clavier, un_challenge_se_tape_dans_dip_a)
     fichiers.Pose(u"F9ZZY_Ch_DFCF_2026.log"_s, {});
     Prepare(u"DFCF"_s);
     Frappe(u"ch_dfcf"_s);
-    EXPECT_EQ(Ecran().Dip_A(), u"Ch_DFCF"_s);
+    EXPECT_EQ(Texte(Controle::Dip_A), u"Ch_DFCF"_s);
     EXPECT_EQ(Controle_Nomme<QComboBox>(u"Dip_A"_s).currentText(), u"Ch_DFCF"_s);
     EXPECT_EQ(conduite::Repond({}, [this] { Touche(Qt::Key_Return); }).size(), 1U);
-    EXPECT_EQ(Ecran().Texte(Controle::Frame3), u"Challenge DFCF année 2026"_s);
+    EXPECT_EQ(Texte(Controle::Frame3), u"Challenge DFCF année 2026"_s);
 }
 
 TEST_F(Clavier, un_diplome_choisi_dans_la_liste_ouverte_s_ouvre)
@@ -255,12 +255,12 @@ TEST_F(Clavier, un_diplome_choisi_dans_la_liste_ouverte_s_ouvre)
     dip.showPopup();
     QTest::keyClick(dip.view(), Qt::Key_Down);
     QTest::keyClick(dip.view(), Qt::Key_Return);
-    EXPECT_EQ(Ecran().Texte(Controle::Frame3), u"Diplome des Fontaines de France"_s);
+    EXPECT_EQ(Texte(Controle::Frame3), u"Diplome des Fontaines de France"_s);
     EXPECT_EQ(En_Main()->objectName(), u"Bande_A"_s);
     dip.showPopup();
     const QModelIndex dlf = dip.model()->index(Rang(u"DLF"_s), 0);
     QTest::mouseClick(dip.view()->viewport(), Qt::LeftButton, {}, dip.view()->visualRect(dlf).center());
-    EXPECT_EQ(Ecran().Texte(Controle::Frame3), u"Diplome des Lavoirs de France"_s);
+    EXPECT_EQ(Texte(Controle::Frame3), u"Diplome des Lavoirs de France"_s);
     EXPECT_EQ(Reglage(section, u"Diplome Utilise"_s), QString::number(Rang(u"DLF"_s)));
 }
 
@@ -271,7 +271,7 @@ TEST_F(Clavier, avant_toute_station_la_liste_ouverte_n_ouvre_rien)
     dip.showPopup();
     QTest::keyClick(dip.view(), Qt::Key_Down);
     EXPECT_EQ(conduite::Repond({}, [&] { QTest::keyClick(dip.view(), Qt::Key_Return); }).size(), 1U);
-    EXPECT_FALSE(Ecran().Est_Actif(Controle::Bande_A));
+    EXPECT_FALSE(Est_Actif(Controle::Bande_A));
 }
 
 TEST_F(Clavier, chaque_controle_de_l_ecran_porte_son_nom)

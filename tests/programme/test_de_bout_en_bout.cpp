@@ -62,7 +62,7 @@ TEST_F(De_Bout_En_Bout, d_une_station_neuve_a_un_log_saisi_modifie_insere_et_eff
     EXPECT_TRUE(au_demarrage[1].contains(u"Premiere installation"_s));
 
     Cree_Station(u"f9zzy"_s);
-    EXPECT_EQ(Ecran().I_Station(), u"F9ZZY"_s);
+    EXPECT_EQ(Texte(Controle::I_Station), u"F9ZZY"_s);
 
     // The code is typed over the one that Dip_A shows.
     conduite::Trouve<QComboBox>(Ecran(), u"Dip_A"_s)->lineEdit()->selectAll();
@@ -77,13 +77,13 @@ TEST_F(De_Bout_En_Bout, d_une_station_neuve_a_un_log_saisi_modifie_insere_et_eff
     Tape_QSO(u"f6xyz"_s, u"rené"_s, u"89001"_s, u"tanlay"_s);
     Valide();
     Tape_QSO(u"f5abc/p"_s, {}, u"63087"_s, u"murol"_s);
-    EXPECT_EQ(Ecran().Texte(Controle::Prenom_A), u"JEAN"_s) << "the first-name list offers the name of the first QSO";
+    EXPECT_EQ(Texte(Controle::Prenom_A), u"JEAN"_s) << "the first-name list offers the name of the first QSO";
     Valide();
     EXPECT_EQ(Liste().model()->rowCount(), 3);
 
     // The second QSO gets another report; the line keeps its place and the last one is selected.
     conduite::Double_Clique(Liste(), 1);
-    EXPECT_EQ(Ecran().Texte(Controle::Mode_Aff), u"Modification QSO"_s);
+    EXPECT_EQ(Texte(Controle::Mode_Aff), u"Modification QSO"_s);
     conduite::Trouve<QLineEdit>(Ecran(), u"RSTR_A"_s)->selectAll();
     conduite::Tape(Controle_Nomme(u"RSTR_A"_s), u"57"_s);
     Valide();

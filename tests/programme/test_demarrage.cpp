@@ -39,15 +39,15 @@ TEST_F(Demarrage, la_station_reprend_ses_choix_son_log_et_son_titre)
     Regle(section, u"Mode Utilise"_s, u"1"_s);
     EXPECT_TRUE(Ouvre().empty());
     EXPECT_EQ(Ecran().windowTitle(), u"   Vorlain  Revision V1.2.5c"_s);
-    EXPECT_EQ(Ecran().Texte(Controle::Bande_A), u"14 Mhz"_s);
-    EXPECT_EQ(Ecran().Texte(Controle::Mode_A), u"CW"_s);
-    EXPECT_EQ(Ecran().Texte(Controle::RSTR_A), u"599"_s);
-    EXPECT_EQ(Ecran().Dip_A(), u"DLF"_s);
-    EXPECT_EQ(Ecran().Texte(Controle::Type_Ref), u"DLF"_s);
-    EXPECT_EQ(Ecran().Texte(Controle::Label_Liste_QSO),
+    EXPECT_EQ(Texte(Controle::Bande_A), u"14 Mhz"_s);
+    EXPECT_EQ(Texte(Controle::Mode_A), u"CW"_s);
+    EXPECT_EQ(Texte(Controle::RSTR_A), u"599"_s);
+    EXPECT_EQ(Texte(Controle::Dip_A), u"DLF"_s);
+    EXPECT_EQ(Texte(Controle::Type_Ref), u"DLF"_s);
+    EXPECT_EQ(Texte(Controle::Label_Liste_QSO),
               u"   N°   Indicatif     Dpt Prénom         Réference    Date     QTR   Mode   QRG   RstR RstE   Mom "
               u"Activité / Ville         QSL"_s);
-    EXPECT_FALSE(Ecran().Est_Actif(Controle::Annule_Saisie));
+    EXPECT_FALSE(Est_Actif(Controle::Annule_Saisie));
     EXPECT_EQ(Reglage(u"Setup "_s, u"Revision"_s), u"V1.2.5c"_s);
     EXPECT_EQ(Reglage(u"Setup "_s, u"Chemin Repertoire"_s), fichiers.Chemin());
 }
@@ -92,10 +92,10 @@ TEST_F(Demarrage, le_dernier_qso_du_log_donne_bande_et_mode_et_l_ecran_est_au_re
                   QSO({.ref = u"21001"_s, .mode = u"CW"_s, .bande = u"50 Mhz"_s}).toLatin1() + "\r\n");
     Ouvre();
     EXPECT_EQ(QSO_Affiches().size(), 1U);
-    EXPECT_EQ(Ecran().Texte(Controle::Bande_A), u"50 Mhz"_s);
-    EXPECT_EQ(Ecran().Texte(Controle::RSTR_A), u"599"_s);
-    EXPECT_EQ(Ecran().Texte(Controle::Ind_A), u""_s);
-    EXPECT_EQ(Ecran().Texte(Controle::Mode_Aff), u"Saisie QSO"_s);
+    EXPECT_EQ(Texte(Controle::Bande_A), u"50 Mhz"_s);
+    EXPECT_EQ(Texte(Controle::RSTR_A), u"599"_s);
+    EXPECT_EQ(Texte(Controle::Ind_A), u""_s);
+    EXPECT_EQ(Texte(Controle::Mode_Aff), u"Saisie QSO"_s);
     EXPECT_EQ(Reglage(section, u"bande Utilisee"_s), u"(absent)"_s);
 }
 
@@ -105,7 +105,7 @@ TEST_F(Demarrage, l_indicatif_se_montre_tel_qu_il_est_enregistre)
     Regle(u"Setup "_s, u"Indicatif Station"_s, u"F9ZZY_P"_s);
     Regle(u"Setup F9ZZY_P"_s, u"Chemin Sauvegarde"_s, u"/nulle part"_s);
     Ouvre();
-    EXPECT_EQ(Ecran().I_Station(), u"F9ZZY_P"_s);
+    EXPECT_EQ(Texte(Controle::I_Station), u"F9ZZY_P"_s);
 }
 
 TEST_F(Demarrage, a_sept_jours_rien_ne_se_sauve)
@@ -220,16 +220,16 @@ TEST_F(Demarrage, en_differe_choisi_la_fois_d_avant_commence_en_temps_reel)
     Installe_Station(u"DFCF"_s);
     Ouvre();
     Controle_Nomme<QAction>(u"Mnu_Date_Auto_Non"_s).trigger();
-    EXPECT_EQ(Ecran().Texte(Controle::Label15), u"en differé"_s);
+    EXPECT_EQ(Texte(Controle::Label15), u"en differé"_s);
     EXPECT_TRUE(Coche(u"Mnu_Date_Auto_Non"_s));
     EXPECT_EQ(Reglage(section, u"Date Auto"_s), u"Non"_s);
     programme.reset();
     Ouvre();
     EXPECT_TRUE(Coche(u"Mnu_Date_Auto_Oui"_s));
     EXPECT_FALSE(Coche(u"Mnu_Date_Auto_Non"_s));
-    EXPECT_EQ(Ecran().Texte(Controle::Label15), u"En temps réel"_s);
+    EXPECT_EQ(Texte(Controle::Label15), u"En temps réel"_s);
     Controle_Nomme<QAction>(u"Mnu_Date_Auto_Oui"_s).trigger();
-    EXPECT_EQ(Ecran().Texte(Controle::Label15), u"en temps reél"_s);
+    EXPECT_EQ(Texte(Controle::Label15), u"en temps reél"_s);
     EXPECT_TRUE(Coche(u"Mnu_Date_Auto_Oui"_s));
 }
 
@@ -248,13 +248,13 @@ TEST_F(Demarrage, les_horloges_suivent_le_systeme)
 {
     Installe_Station(u"DFCF"_s);
     Ouvre();
-    EXPECT_EQ(Ecran().Texte(Controle::Label37), u"14:48 Utc"_s);
-    EXPECT_EQ(Ecran().Texte(Controle::Label34), u"15:48 Loc"_s);
-    EXPECT_EQ(Ecran().Texte(Controle::Label33), u"15/11/26"_s);
+    EXPECT_EQ(Texte(Controle::Label37), u"14:48 Utc"_s);
+    EXPECT_EQ(Texte(Controle::Label34), u"15:48 Loc"_s);
+    EXPECT_EQ(Texte(Controle::Label33), u"15/11/26"_s);
     horloge.utc = QDateTime(QDate(2026, 12, 31), QTime(23, 59, 59), Qt::UTC);
     QTest::qWait(1100);
-    EXPECT_EQ(Ecran().Texte(Controle::Label37), u"23:59 Utc"_s);
-    EXPECT_EQ(Ecran().Texte(Controle::Label33), u"31/12/26"_s);
+    EXPECT_EQ(Texte(Controle::Label37), u"23:59 Utc"_s);
+    EXPECT_EQ(Texte(Controle::Label33), u"31/12/26"_s);
 }
 
 TEST_F(Demarrage, l_historique_et_la_boite_a_propos)

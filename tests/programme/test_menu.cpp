@@ -2,6 +2,8 @@
 
 #include "saisie/Menu_Principal.h"
 
+#include <QComboBox>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -42,10 +44,10 @@ TEST_F(Menu_Complet, la_fiche_suit_le_texte_du_diplome_et_non_celui_qui_est_ouve
 {
     Installe_Station(u"DFCF"_s);
     Ouvre();
-    Ecran().Choisit(Controle::Dip_A, Rang(u"DLF"_s));
+    Controle_Nomme<QComboBox>(u"Dip_A"_s).setCurrentIndex(Rang(u"DLF"_s));
     Controle_Nomme<QAction>(u"Mnu_Diplomes"_s).trigger();
     EXPECT_NE(conduite::Fenetre(u"Diplomes_DLF"_s), nullptr);
-    Ecran().Ecrit(Controle::Dip_A, u"XYZ"_s);
+    Controle_Nomme<QComboBox>(u"Dip_A"_s).setEditText(u"XYZ"_s);
     Controle_Nomme<QAction>(u"Mnu_Diplomes"_s).trigger();
     EXPECT_EQ(conduite::Fenetre(u"Diplomes_DFCF"_s), nullptr);
 }

@@ -69,7 +69,7 @@ TEST_F(Noms_Demandes, par_mnu_diplomes_pour_chaque_diplome)
 
 TEST_F(Noms_Demandes, par_les_boutons_detail_de_chaque_diplome)
 {
-    demandeur.etat.ligne_selectionnee = u"un QSO"_s;
+    demandeur.ecran.ligne_selectionnee = u"un QSO"_s;
     for (const QStringView code : codes_diplome) {
         demandeur.Ouvre(code.toString());
         Presse_Detail(demandeur.poste, commandes);

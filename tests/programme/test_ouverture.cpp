@@ -21,7 +21,6 @@ protected:
             conduite::Entree(Controle_Nomme(u"Dip_A"_s));
         });
     }
-    QString Texte(Controle controle) { return Ecran().Texte(controle); }
 };
 
 } // namespace
@@ -100,7 +99,7 @@ TEST_F(Ouverture, sans_le_programme_frere_detail_1_garde_son_mot)
     Regle(section, u"Annee Challenge DFCF"_s, u"2026"_s);
     fichiers.Pose(u"F9ZZY_Ch_DFCF_2026.log"_s, {});
     Ouvre();
-    Ecran().Ecrit(Controle::Detail_1, u"un mot"_s);
+    Ecran().La_Saisie().Ecrit(Controle::Detail_1, u"un mot"_s);
     Choisit(u"Ch_DFCF"_s);
     EXPECT_EQ(Texte(Controle::Detail_1), u"un mot"_s);
 }
@@ -150,7 +149,7 @@ TEST_F(Ouverture, choisir_un_autre_code_sans_entree_ne_change_que_l_indice_reten
     Ouvre();
     Choisit(u"DFCF"_s);
     QTest::keyClick(&Controle_Nomme(u"Dip_A"_s), Qt::Key_Down);
-    EXPECT_EQ(Ecran().Dip_A(), u"DFF"_s);
+    EXPECT_EQ(Texte(Controle::Dip_A), u"DFF"_s);
     EXPECT_EQ(Reglage(section, u"Diplome Utilise"_s), QString::number(Rang(u"DFF"_s)));
     EXPECT_EQ(Texte(Controle::Frame3), u"Diplome des Forts et Chateaux de France"_s);
     EXPECT_EQ(QSO_Affiches().size(), 1U);
@@ -165,9 +164,9 @@ TEST_F(Ouverture, ouvrir_un_diplome_laisse_la_bande_en_main)
     EXPECT_EQ(QSO_Affiches().size(), 1U);
     EXPECT_EQ(Texte(Controle::Mode_Aff), u"Saisie QSO"_s);
     EXPECT_EQ(Texte(Controle::Ind_A), u""_s);
-    EXPECT_TRUE(Ecran().Est_Actif(Controle::Bande_A));
-    EXPECT_TRUE(Ecran().Est_Actif(Controle::Ind_A));
-    EXPECT_FALSE(Ecran().Est_Actif(Controle::Ref_A));
+    EXPECT_TRUE(Est_Actif(Controle::Bande_A));
+    EXPECT_TRUE(Est_Actif(Controle::Ind_A));
+    EXPECT_FALSE(Est_Actif(Controle::Ref_A));
     EXPECT_EQ(Controle_Nomme<QComboBox>(u"Bande_A"_s).palette().color(QPalette::Base), QColor(192, 255, 192));
     EXPECT_EQ(Controle_Nomme<QComboBox>(u"Dip_A"_s).palette().color(QPalette::Base), QColor(255, 255, 192));
 }

@@ -54,7 +54,7 @@ TEST_F(Stations, une_barre_oblique_devient_un_trait_bas_dans_le_champ_et_les_fic
             conduite::Entree(*conduite::Trouve(ecran, u"Validation"_s));
         });
     EXPECT_TRUE(fichiers.Existe(u"F9ZZY_P_DFCF.log"_s));
-    EXPECT_EQ(Ecran().I_Station(), u"F9ZZY/P"_s);
+    EXPECT_EQ(Texte(Controle::I_Station), u"F9ZZY/P"_s);
     EXPECT_EQ(Reglage(u"Setup "_s, u"Indicatif Station"_s), u"F9ZZY_P"_s);
     EXPECT_EQ(Reglage(u"Setup F9ZZY_P"_s, u"bande Utilisee"_s), u"0"_s);
     EXPECT_EQ(Reglage(u"Setup F9ZZY_P"_s, u"Mode Utilise"_s), u"0"_s);
@@ -83,7 +83,7 @@ TEST_F(Stations, une_station_connue_garde_ses_logs_et_montre_celui_du_diplome_ou
     EXPECT_EQ(fichiers.Octets(u"F2OLD_DFCF.log"_s), log);
     EXPECT_FALSE(fichiers.Existe(u"F2OLD_DMF.log"_s));
     EXPECT_EQ(QSO_Affiches().size(), 1U);
-    EXPECT_EQ(Ecran().Texte(Controle::Bande_A), u"7.0 Mhz"_s);
+    EXPECT_EQ(Texte(Controle::Bande_A), u"7.0 Mhz"_s);
 }
 
 TEST_F(Stations, les_refus_laissent_la_station_comme_elle_est)
@@ -103,7 +103,7 @@ TEST_F(Stations, les_refus_laissent_la_station_comme_elle_est)
     // The entry still works on the station that was there.
     conduite::Repond({}, [this] { conduite::Entree(Controle_Nomme(u"Dip_A"_s)); });
     EXPECT_FALSE(fichiers.Existe(u"F9-ZZY_DFCF.log"_s));
-    EXPECT_EQ(Ecran().I_Station(), u"F9ZZY"_s);
+    EXPECT_EQ(Texte(Controle::I_Station), u"F9ZZY"_s);
 }
 
 TEST_F(Stations, les_annees_des_challenges_suivent_la_station)

@@ -1,5 +1,5 @@
 #include "faux/Impression.h"
-#include "faux/Vue_Fausse.h"
+#include "faux/Poste_Saisie.h"
 #include "plateforme/Commandes.h"
 #include "saisie/Boutons_Reference.h"
 
@@ -33,7 +33,7 @@ private:
     QString Reponse(const QString &code, bool selectionne, void (*bouton)(Poste &, Commandes &))
     {
         essai.etat.station.diplome = Diplome_De(code);
-        essai.etat.ligne_selectionnee = selectionne ? u"      1  F5ABC"_s : QString();
+        essai.saisie.ligne_selectionnee = selectionne ? u"      1  F5ABC"_s : QString();
         essai.ecrans.montres.clear();
         commandes.executees.clear();
         bouton(essai.poste, commandes);
@@ -99,6 +99,6 @@ TEST_F(Boutons, detail_1_ne_repond_qu_aux_challenges_et_sans_qso)
 
 TEST_F(Boutons, le_diplome_courant_compte_et_non_celui_de_dip_a)
 {
-    essai.vue.Ecrit(Controle::Dip_A, u"PC"_s);
+    essai.saisie.Ecrit(Controle::Dip_A, u"PC"_s);
     EXPECT_EQ(Detail(u"DFCF"_s), u"ouvre Detail_DFCF"_s);
 }

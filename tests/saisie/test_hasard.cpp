@@ -1,6 +1,6 @@
 #include "faux/Impression.h"
+#include "faux/Poste_Saisie.h"
 #include "faux/QSO_Essai.h"
-#include "faux/Vue_Fausse.h"
 #include "saisie/Chaine.h"
 #include "saisie/Options.h"
 
@@ -43,8 +43,8 @@ public:
     [[nodiscard]] bool A_Une_Cible() const
     {
         const Lignes_Texte log = essai_.dossier.Lit_Lignes(u"F9ZZY_" + Code(essai_.etat.station.diplome) + u".log");
-        const QString cible = Ligne_Log_Affichee(essai_.etat.ligne_selectionnee);
-        return essai_.etat.qso_affiche && std::find(log.begin(), log.end(), cible) != log.end();
+        const QString cible = Ligne_Log_Affichee(saisie_.ligne_selectionnee);
+        return saisie_.qso_affiche && std::find(log.begin(), log.end(), cible) != log.end();
     }
 
     /// All lines of all logs, sorted.
@@ -67,41 +67,42 @@ private:
 
     void Ouvre(const QString &code)
     {
-        vue_.Ecrit(Dip_A, code);
-        Entree(essai_.poste, vue_, Dip_A);
+        saisie_.Ecrit(Dip_A, code);
+        Entree(essai_.poste, saisie_, Dip_A);
     }
     void Clique(bool double_clic)
     {
-        if (vue_.liste.empty())
+        if (ecran_.Liste_QSO().empty())
             return;
-        vue_.Selectionne_QSO(static_cast<std::size_t>(Nombre(static_cast<int>(vue_.liste.size()) - 1)));
+        ecran_.Selectionne_QSO(static_cast<std::size_t>(Nombre(static_cast<int>(ecran_.Liste_QSO().size()) - 1)));
         if (double_clic)
-            Double_Clic_Liste(essai_.poste, vue_, vue_.selection);
+            Double_Clic_Liste(essai_.poste, saisie_, ecran_.QSO_Selectionne());
     }
-    void Presse(Controle bouton, void (*action)(Poste &, Vue_Saisie &))
+    void Presse(Controle bouton, void (*action)(Poste &, Saisie &))
     {
-        if (vue_.Est_Actif(bouton))
-            action(essai_.poste, vue_);
+        if (saisie_.Est_Actif(bouton))
+            action(essai_.poste, saisie_);
     }
     void Choisit_Option()
     {
-        Choisit_Saisie(essai_.poste, vue_, Nombre(1) == 0);
-        Tique(essai_.poste, vue_);
+        Choisit_Saisie(essai_.poste, saisie_, Nombre(1) == 0);
+        Tique(essai_.poste, saisie_);
     }
     /// Walks the enabled fields from one on, with a text that fits each most of the time.
     void Remplit_Et_Entre()
     {
-        for (int i = Nombre(3) ? 1 : Nombre(11); i < 12 && vue_.Est_Actif(champs_[i]); ++i) {
+        for (int i = Nombre(3) ? 1 : Nombre(11); i < 12 && saisie_.Est_Actif(champs_[i]); ++i) {
             if (champs_[i] != QSL_A && Nombre(2))
-                vue_.Ecrit(champs_[i], Nombre(9) ? justes_[i] : Parmi(absurdes_));
-            vue_.Donne_Focus(champs_[i]);
-            Entree(essai_.poste, vue_, champs_[i]);
+                saisie_.Ecrit(champs_[i], Nombre(9) ? justes_[i] : Parmi(absurdes_));
+            saisie_.Donne_Focus(champs_[i]);
+            Entree(essai_.poste, saisie_, champs_[i]);
         }
     }
 
     std::mt19937 hasard_;
     Poste_Saisie essai_;
-    Vue_Fausse &vue_ = essai_.vue;
+    Saisie &saisie_ = essai_.saisie;
+    Ecran_Du_Log &ecran_ = essai_.ecran_du_log;
     const std::vector<QString> codes_{u"DFCF"_s, u"DDFM"_s, u"WLF"_s};
     const Controle champs_[12] = {Bande_A, Ind_A,  Prenom_A, Ref_A,  Dpt_A, Date_A,
                                   Heure_A, Mode_A, RSTR_A,   RSTE_A, Nom_A, QSL_A};
@@ -114,7 +115,7 @@ private:
         {"open", [this] { Ouvre(Parmi(codes_)); }},
         {"click", [this] { Clique(false); }},
         {"double click", [this] { Clique(true); }},
-        {"insertion", [this] { Commence_Insertion(essai_.poste, vue_); }},
+        {"insertion", [this] { Commence_Insertion(essai_.poste, saisie_); }},
         {"delete", [this] { Presse(Annule_Saisie, Supprime_QSO); }},
         {"commit", [this] { Presse(Valide_A, Valide_QSO); }},
         {"commit", [this] { Presse(Valide_A, Valide_QSO); }},
@@ -122,7 +123,7 @@ private:
         {"fields", [this] { Remplit_Et_Entre(); }},
         {"fields", [this] { Remplit_Et_Entre(); }},
         {"fields", [this] { Remplit_Et_Entre(); }},
-        {"clear", [this] { vue_.Efface(); }},
+        {"clear", [this] { Efface_Tout(saisie_); }},
     };
 };
 

@@ -1,7 +1,7 @@
 #include "faux/Echec.h"
 #include "faux/Impression.h"
+#include "faux/Poste_Saisie.h"
 #include "faux/QSO_Essai.h"
-#include "faux/Vue_Fausse.h"
 #include "log/Notice.h"
 #include "saisie/Chaine.h"
 
@@ -27,12 +27,12 @@ protected:
     }
 
     Poste_Saisie essai;
-    Vue_Fausse &vue = essai.vue;
+    Saisie &saisie = essai.saisie;
 
     void Ouvre(QStringView code)
     {
-        vue.Ecrit(Dip_A, code.toString());
-        Entree(essai.poste, vue, Dip_A);
+        saisie.Ecrit(Dip_A, code.toString());
+        Entree(essai.poste, saisie, Dip_A);
     }
     static qsizetype Rang(QStringView code)
     {
@@ -64,14 +64,14 @@ TEST_F(Diplome_Choisi, chaque_code_s_ouvre_sur_la_bande_et_se_retient)
         SCOPED_TRACE(code.toString().toStdString());
         Ouvre(code);
         EXPECT_EQ(essai.etat.station.diplome, Diplome_De(code));
-        EXPECT_EQ(vue.Texte(Controle::Type_Ref), Notice_De(*Diplome_De(code)).habillage.type_ref.toString());
-        EXPECT_EQ(vue.Texte(Detail), Notice_De(*Diplome_De(code)).habillage.detail.toString());
-        EXPECT_EQ(vue.Texte(Label1), Notice_De(*Diplome_De(code)).habillage.label1.toString());
+        EXPECT_EQ(saisie.Texte(Controle::Type_Ref), Notice_De(*Diplome_De(code)).habillage.type_ref.toString());
+        EXPECT_EQ(saisie.Texte(Detail), Notice_De(*Diplome_De(code)).habillage.detail.toString());
+        EXPECT_EQ(saisie.Texte(Label1), Notice_De(*Diplome_De(code)).habillage.label1.toString());
         const QString annee = Est_Challenge(Diplome_De(code)) ? u"2026"_s : QString();
-        EXPECT_EQ(vue.Texte(Frame3), Notice_De(*Diplome_De(code)).habillage.frame3.toString() + annee);
-        EXPECT_EQ(vue.focus, Bande_A);
-        EXPECT_TRUE(vue.Est_Actif(Bande_A));
-        EXPECT_TRUE(vue.Est_Actif(Ind_A));
+        EXPECT_EQ(saisie.Texte(Frame3), Notice_De(*Diplome_De(code)).habillage.frame3.toString() + annee);
+        EXPECT_EQ(saisie.Focus(), Bande_A);
+        EXPECT_TRUE(saisie.Est_Actif(Bande_A));
+        EXPECT_TRUE(saisie.Est_Actif(Ind_A));
         EXPECT_EQ(Reglage(u"Diplome Utilise"_s), QString::number(rang));
         EXPECT_EQ(essai.Messages().size(), Est_Challenge(Diplome_De(code)) ? 1U : 0U);
     }
@@ -82,33 +82,33 @@ TEST_F(Diplome_Choisi, le_log_s_affiche_et_l_ecran_est_au_repos)
 {
     essai.fichiers.Pose(u"F9ZZY_DFCF.log"_s, QSO({.ref = u"77001"_s}).toLatin1() + "\r\n");
     Ouvre(u"DFCF");
-    EXPECT_EQ(vue.liste.size(), 1U);
-    EXPECT_EQ(vue.selection, Ligne_Affichage(1, vue.liste[0]));
-    EXPECT_EQ(essai.etat.ligne_selectionnee, vue.selection);
-    EXPECT_EQ(vue.Texte(Ref_A), u""_s);
-    EXPECT_FALSE(essai.etat.qso_affiche);
-    EXPECT_EQ(vue.Texte(Mode_Aff), u"Saisie QSO"_s);
-    EXPECT_FALSE(vue.Est_Actif(Annule_Saisie));
+    EXPECT_EQ(essai.ecran_du_log.Liste_QSO().size(), 1U);
+    EXPECT_EQ(essai.ecran_du_log.QSO_Selectionne(), Ligne_Affichage(1, essai.ecran_du_log.Liste_QSO()[0]));
+    EXPECT_EQ(saisie.ligne_selectionnee, essai.ecran_du_log.QSO_Selectionne());
+    EXPECT_EQ(saisie.Texte(Ref_A), u""_s);
+    EXPECT_FALSE(saisie.qso_affiche);
+    EXPECT_EQ(saisie.Texte(Mode_Aff), u"Saisie QSO"_s);
+    EXPECT_FALSE(saisie.Est_Actif(Annule_Saisie));
 }
 
 TEST_F(Diplome_Choisi, une_modification_en_cours_ne_retient_pas_le_code)
 {
     essai.reglages.vorlain[{u"Setup F9ZZY"_s, u"Diplome Utilise"_s}] = u"6"_s;
-    essai.etat.qso_affiche = essai.etat.qso_en_edition = true;
+    saisie.qso_affiche = saisie.qso_en_edition = true;
     Ouvre(u"DMF");
     EXPECT_EQ(Reglage(u"Diplome Utilise"_s), u"6"_s);
-    EXPECT_TRUE(essai.etat.qso_en_edition);
+    EXPECT_TRUE(saisie.qso_en_edition);
     EXPECT_EQ(essai.etat.station.diplome, Diplome::DMF);
 }
 
 TEST_F(Diplome_Choisi, une_autre_touche_retient_le_code_et_laisse_le_diplome)
 {
     Ouvre(u"DFCF");
-    vue.Ecrit(Dip_A, u"DMF"_s);
-    Apres_Touche(essai.poste, vue, Dip_A);
+    saisie.Ecrit(Dip_A, u"DMF"_s);
+    Apres_Touche(essai.poste, saisie, Dip_A);
     EXPECT_EQ(Reglage(u"Diplome Utilise"_s), u"11"_s);
     EXPECT_EQ(essai.etat.station.diplome, Diplome::DFCF);
-    EXPECT_EQ(vue.Texte(Frame3), u"Diplome des Forts et Chateaux de France"_s);
+    EXPECT_EQ(saisie.Texte(Frame3), u"Diplome des Forts et Chateaux de France"_s);
 }
 
 TEST_F(Diplome_Choisi, la_revision_de_la_liste_fff_se_lit_au_cinquieme_caractere)
@@ -133,7 +133,7 @@ TEST_F(Diplome_Choisi, un_challenge_sans_annee_demande_la_sienne)
     };
     Ouvre(u"Ch_DMF");
     EXPECT_EQ(essai.ecrans.modaux, std::vector<QString>{u"Select_Annee"_s});
-    EXPECT_EQ(vue.Texte(Frame3), u"Challenge DMF année 2026"_s);
+    EXPECT_EQ(saisie.Texte(Frame3), u"Challenge DMF année 2026"_s);
     EXPECT_EQ(essai.Messages(), std::vector<QString>{u" Lettres qui doivent suivent la référence :\n\n"
                                                      u" - A - Activation contactée et validée\n"
                                                      u" - R - Réactivation contactée et validée\n"
@@ -153,7 +153,7 @@ TEST_F(Diplome_Choisi, un_code_tape_sans_sa_casse_s_ouvre_sous_sa_forme)
          {std::pair(u"CH_DFCF"_s, u"Ch_DFCF"_s), std::pair(u"ch_dmf"_s, u"Ch_DMF"_s), std::pair(u"dlf"_s, u"DLF"_s)}) {
         Ouvre(tape);
         EXPECT_EQ(essai.etat.station.diplome, Diplome_De(code));
-        EXPECT_EQ(vue.Texte(Dip_A), code);
+        EXPECT_EQ(saisie.Texte(Dip_A), code);
         EXPECT_EQ(Reglage(u"Diplome Utilise"_s), QString::number(Rang(code)));
     }
 }
@@ -161,15 +161,15 @@ TEST_F(Diplome_Choisi, un_code_tape_sans_sa_casse_s_ouvre_sous_sa_forme)
 TEST_F(Diplome_Choisi, un_code_tape_prend_sa_forme_des_sa_derniere_lettre)
 {
     Ouvre(u"DFCF");
-    vue.Ecrit(Dip_A, u"CH_DM"_s);
-    Apres_Touche(essai.poste, vue, Dip_A);
-    EXPECT_EQ(vue.Texte(Dip_A), u"CH_DM"_s);
+    saisie.Ecrit(Dip_A, u"CH_DM"_s);
+    Apres_Touche(essai.poste, saisie, Dip_A);
+    EXPECT_EQ(saisie.Texte(Dip_A), u"CH_DM"_s);
     EXPECT_EQ(Reglage(u"Diplome Utilise"_s), u"-1"_s);
-    vue.Ecrit(Dip_A, u"CH_DMF"_s);
-    Apres_Touche(essai.poste, vue, Dip_A);
-    EXPECT_EQ(vue.Texte(Dip_A), u"Ch_DMF"_s);
+    saisie.Ecrit(Dip_A, u"CH_DMF"_s);
+    Apres_Touche(essai.poste, saisie, Dip_A);
+    EXPECT_EQ(saisie.Texte(Dip_A), u"Ch_DMF"_s);
     EXPECT_EQ(Reglage(u"Diplome Utilise"_s), u"1"_s);
-    EXPECT_TRUE(vue.curseurs_a_la_fin.contains(Dip_A));
+    EXPECT_TRUE(saisie.Curseur_De(Dip_A) == Curseur::Fin);
     EXPECT_EQ(essai.etat.station.diplome, Diplome::DFCF);
 }
 
@@ -179,6 +179,6 @@ TEST_F(Diplome_Choisi, un_choix_d_annee_sans_choix_remet_le_diplome_ouvert_dans_
     Ouvre(u"DFCF");
     Ouvre(u"Ch_DMF");
     EXPECT_EQ(essai.etat.station.diplome, Diplome::DFCF);
-    EXPECT_EQ(vue.Texte(Dip_A), u"DFCF"_s);
-    EXPECT_EQ(vue.Texte(Frame3), u"Diplome des Forts et Chateaux de France"_s);
+    EXPECT_EQ(saisie.Texte(Dip_A), u"DFCF"_s);
+    EXPECT_EQ(saisie.Texte(Frame3), u"Diplome des Forts et Chateaux de France"_s);
 }

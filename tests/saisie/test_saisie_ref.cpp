@@ -1,7 +1,7 @@
 #include "faux/Echec.h"
 #include "faux/Impression.h"
+#include "faux/Poste_Saisie.h"
 #include "faux/QSO_Essai.h"
-#include "faux/Vue_Fausse.h"
 #include "plateforme/Windows_1252.h"
 #include "saisie/Chaine.h"
 #include "saisie/Regle_Ref.h"
@@ -139,7 +139,7 @@ protected:
     }
 
     Poste_Saisie essai;
-    Vue_Fausse &vue = essai.vue;
+    Saisie &saisie = essai.saisie;
 
     void Pose_Liste(const QString &nom, const QString &texte) { essai.fichiers.Pose(nom, Encode_1252(texte)); }
 
@@ -147,37 +147,37 @@ protected:
     void Entre(QStringView code, QStringView ref)
     {
         Ouvre_Diplome_Vide(code);
-        vue.Ecrit(Dpt_A, u"99"_s);
-        vue.Ecrit(Nom_A, u"ANCIEN NOM"_s);
+        saisie.Ecrit(Dpt_A, u"99"_s);
+        saisie.Ecrit(Nom_A, u"ANCIEN NOM"_s);
         Entre_Ref(ref);
     }
     void Entre_Ref(QStringView ref)
     {
-        vue.Active(Ref_A, true);
-        vue.Ecrit(Ref_A, ref.toString());
-        vue.Donne_Focus(Ref_A);
-        Entree(essai.poste, vue, Ref_A);
+        saisie.Active(Ref_A, true);
+        saisie.Ecrit(Ref_A, ref.toString());
+        saisie.Donne_Focus(Ref_A);
+        Entree(essai.poste, saisie, Ref_A);
     }
     void Ouvre_Diplome_Vide(QStringView code)
     {
         essai.etat.station.annee_ch_dfcf = essai.etat.station.annee_ch_dmf = u"2026"_s;
-        const bool differee = essai.etat.saisie_differee;
-        const bool affiche = essai.etat.qso_affiche;
+        const bool differee = saisie.saisie_differee;
+        const bool affiche = saisie.qso_affiche;
         essai.Ouvre_Log(code.toString());
         if (Est_Challenge(Diplome_De(code)))
             essai.fichiers.Pose(u"F9ZZY_"_s + code + u"_2026.log", "");
-        essai.etat.saisie_differee = differee;
-        essai.etat.qso_affiche = affiche;
+        saisie.saisie_differee = differee;
+        saisie.qso_affiche = affiche;
     }
     void Attend_Passage(const Cas &cas, QStringView nom)
     {
         SCOPED_TRACE((cas.code + u' ' + cas.ref).toUtf8().constData());
         Entre(cas.code, cas.ref);
         EXPECT_EQ(essai.Messages(), std::vector<QString>());
-        EXPECT_EQ(vue.focus, Dpt_A);
-        EXPECT_TRUE(vue.Est_Actif(Dpt_A));
-        EXPECT_EQ(vue.Texte(Dpt_A), cas.dpt.toString());
-        EXPECT_EQ(vue.Texte(Nom_A), nom.toString());
+        EXPECT_EQ(saisie.Focus(), Dpt_A);
+        EXPECT_TRUE(saisie.Est_Actif(Dpt_A));
+        EXPECT_EQ(saisie.Texte(Dpt_A), cas.dpt.toString());
+        EXPECT_EQ(saisie.Texte(Nom_A), nom.toString());
     }
 };
 
@@ -188,25 +188,25 @@ TEST_F(Reference, une_nouvelle_entree_recoit_departement_et_debut_du_nom)
     for (const Cas &cas : acceptees) {
         Attend_Passage(cas, cas.nom_nouveau);
         // The name goes on behind a prefix of the award.
-        EXPECT_EQ(vue.curseurs_a_la_fin.contains(Nom_A), cas.nom_nouveau.size() == 3)
+        EXPECT_EQ(saisie.Curseur_De(Nom_A) == Curseur::Fin, cas.nom_nouveau.size() == 3)
             << cas.code.toString().toStdString();
     }
 }
 
 TEST_F(Reference, une_entree_en_differe_recoit_la_meme_chose)
 {
-    essai.etat.saisie_differee = true;
+    saisie.saisie_differee = true;
     for (const Cas &cas : acceptees)
         Attend_Passage(cas, cas.nom_nouveau);
 }
 
 TEST_F(Reference, un_qso_affiche_ou_modifie_garde_son_nom_sauf_exception)
 {
-    for (bool Etat_Commun::*drapeau : {&Etat_Commun::qso_affiche, &Etat_Commun::qso_en_edition}) {
-        essai.etat.*drapeau = true;
+    for (bool Saisie::*drapeau : {&Saisie::qso_affiche, &Saisie::qso_en_edition}) {
+        saisie.*drapeau = true;
         for (const Cas &cas : acceptees)
             Attend_Passage(cas, cas.nom_en_edition);
-        essai.etat.*drapeau = false;
+        saisie.*drapeau = false;
     }
 }
 
@@ -216,10 +216,10 @@ TEST_F(Reference, une_forme_refusee_reste_et_ne_remplit_rien)
         SCOPED_TRACE((refusee.code + u' ' + refusee.ref).toUtf8().constData());
         Entre(refusee.code, refusee.ref);
         EXPECT_EQ(essai.Messages(), std::vector<QString>{refusee.message.toString()});
-        EXPECT_EQ(vue.focus, Ref_A);
-        EXPECT_EQ(vue.Texte(Ref_A), refusee.ref.toString());
-        EXPECT_EQ(vue.Texte(Dpt_A), u"99"_s);
-        EXPECT_EQ(vue.Texte(Nom_A), u"ANCIEN NOM"_s);
+        EXPECT_EQ(saisie.Focus(), Ref_A);
+        EXPECT_EQ(saisie.Texte(Ref_A), refusee.ref.toString());
+        EXPECT_EQ(saisie.Texte(Dpt_A), u"99"_s);
+        EXPECT_EQ(saisie.Texte(Nom_A), u"ANCIEN NOM"_s);
     }
 }
 
@@ -228,7 +228,7 @@ TEST_F(Reference, onze_caracteres_ont_le_message_general_pour_tout_diplome)
     for (const QStringView code : codes_diplome) {
         Entre(code, u"77-001-0001");
         EXPECT_EQ(essai.Messages(), std::vector<QString>{u"10 caracteres maxi pour la reference (pas de tiret)"_s});
-        EXPECT_EQ(vue.focus, Ref_A);
+        EXPECT_EQ(saisie.Focus(), Ref_A);
     }
 }
 
@@ -238,8 +238,8 @@ TEST_F(Reference, les_18_diplomes_a_reference_ont_une_regle_et_les_autres_non)
         EXPECT_EQ(Regle_Ref_De(Diplome_De(code)) != nullptr, code != u"DDFM" && code != u"DPF" && code != u"DYLF");
     // Another text goes straight to the department.
     Entre(u"DDFM", u"x");
-    EXPECT_EQ(vue.focus, Dpt_A);
-    EXPECT_EQ(vue.Texte(Nom_A), u"ANCIEN NOM"_s);
+    EXPECT_EQ(saisie.Focus(), Dpt_A);
+    EXPECT_EQ(saisie.Texte(Nom_A), u"ANCIEN NOM"_s);
 }
 
 TEST_F(Reference, une_repetition_est_dite_sur_une_ligne_avec_sa_date)
@@ -248,7 +248,7 @@ TEST_F(Reference, une_repetition_est_dite_sur_une_ligne_avec_sa_date)
                                    QSO({.ref = u"77001"_s, .date = u"13/05/07"_s}).toLatin1() + "\r\n");
     Entre_Ref(u"77001");
     EXPECT_EQ(essai.Messages(), std::vector<QString>{u"La référence 77001 a été contactée le 12/05/07"_s});
-    EXPECT_EQ(vue.focus, Ref_A);
+    EXPECT_EQ(saisie.Focus(), Ref_A);
     // The R of a reactivation makes another reference, which DFCF has no room for.
     Entre_Ref(u"77001R");
     EXPECT_EQ(essai.Messages(), std::vector<QString>{u"5 caractères pour la référence ex: 77001"_s});
@@ -272,14 +272,13 @@ TEST_F(Reference, un_r_derriere_la_reference_n_est_pas_une_repetition)
 
 TEST_F(Reference, en_differe_ou_sur_un_qso_affiche_une_repetition_passe)
 {
-    for (bool Etat_Commun::*drapeau :
-         {&Etat_Commun::saisie_differee, &Etat_Commun::qso_affiche, &Etat_Commun::qso_en_edition}) {
+    for (bool Saisie::*drapeau : {&Saisie::saisie_differee, &Saisie::qso_affiche, &Saisie::qso_en_edition}) {
         essai.Ouvre_Log(u"DFCF"_s, QSO({.ref = u"77001"_s}).toLatin1() + "\r\n");
-        essai.etat.*drapeau = true;
+        saisie.*drapeau = true;
         Entre_Ref(u"77001");
         EXPECT_TRUE(essai.Messages().empty());
-        EXPECT_EQ(vue.focus, Dpt_A);
-        essai.etat.*drapeau = false;
+        EXPECT_EQ(saisie.Focus(), Dpt_A);
+        saisie.*drapeau = false;
     }
 }
 
@@ -287,9 +286,9 @@ TEST_F(Reference, en_differe_le_log_n_est_pas_lu)
 {
     essai.Ouvre_Log(u"DMF"_s);
     QFile::remove(essai.fichiers.Chemin(u"F9ZZY_DMF.log"_s));
-    essai.etat.saisie_differee = true;
+    saisie.saisie_differee = true;
     EXPECT_FALSE(Echec([&] { Entre_Ref(u"77001"); }));
-    essai.etat.saisie_differee = false;
+    saisie.saisie_differee = false;
     EXPECT_EQ(Echec([&] { Entre_Ref(u"77001"); })->La_Cause(), Cause::Fichier_Introuvable);
 }
 
@@ -298,23 +297,23 @@ TEST_F(Reference, une_cathedrale_inconnue_est_dite_et_vide_les_champs)
     Entre(u"DCF", u"999");
     EXPECT_EQ(essai.Messages(),
               std::vector<QString>{u"Référence non trouvée, cliquez sur le bouton 'Liste Cathédrales'"_s});
-    EXPECT_EQ(vue.focus, Dpt_A);
-    EXPECT_EQ(vue.Texte(Dpt_A), u""_s);
-    EXPECT_EQ(vue.Texte(Nom_A), u""_s);
+    EXPECT_EQ(saisie.Focus(), Dpt_A);
+    EXPECT_EQ(saisie.Texte(Dpt_A), u""_s);
+    EXPECT_EQ(saisie.Texte(Nom_A), u""_s);
 }
 
 TEST_F(Reference, une_inconnue_d_une_autre_liste_passe)
 {
     Entre(u"DOHF", u"45EC999");
-    EXPECT_EQ(vue.Texte(Dpt_A), u"45"_s);
-    EXPECT_EQ(vue.Texte(Nom_A), u"EC"_s);
+    EXPECT_EQ(saisie.Texte(Dpt_A), u"45"_s);
+    EXPECT_EQ(saisie.Texte(Nom_A), u"EC"_s);
     for (const auto &[code, ref] : {std::pair(u"FFF", u"9999"), std::pair(u"PC", u"93999")}) {
         Entre(code, ref);
-        EXPECT_EQ(vue.Texte(Nom_A), u""_s);
-        EXPECT_EQ(vue.focus, Dpt_A);
+        EXPECT_EQ(saisie.Texte(Nom_A), u""_s);
+        EXPECT_EQ(saisie.Focus(), Dpt_A);
     }
     Entre(u"DPLF", u"PB999");
-    EXPECT_EQ(vue.Texte(Dpt_A), u""_s);
+    EXPECT_EQ(saisie.Texte(Dpt_A), u""_s);
     EXPECT_TRUE(essai.Messages().empty());
 }
 
@@ -322,9 +321,9 @@ TEST_F(Reference, une_tour_inconnue_est_dite_et_laisse_la_derniere_de_la_liste)
 {
     Entre(u"TDC", u"11-999");
     EXPECT_EQ(essai.Messages(), std::vector<QString>{u"Pas de tours Chappe dans le département "_s});
-    EXPECT_EQ(vue.Texte(Dpt_A), u"34"_s);
-    EXPECT_EQ(vue.Texte(Nom_A), u"TOUR DU MIDI"_s);
-    EXPECT_EQ(vue.focus, Dpt_A);
+    EXPECT_EQ(saisie.Texte(Dpt_A), u"34"_s);
+    EXPECT_EQ(saisie.Texte(Nom_A), u"TOUR DU MIDI"_s);
+    EXPECT_EQ(saisie.Focus(), Dpt_A);
 }
 
 TEST_F(Reference, sans_sa_liste_la_reference_echoue)
@@ -344,10 +343,10 @@ TEST_F(Reference, une_reference_courte_ne_deborde_pas)
          {std::tuple(u"DFF", u"3", u"3"), std::tuple(u"DVFF", u"GVM", u""), std::tuple(u"DVFF", u"G", u""),
           std::tuple(u"DVFF", u"GA1", u"1"), std::tuple(u"DFF", u"", u"")}) {
         Entre(code, ref);
-        EXPECT_EQ(vue.Texte(Dpt_A), QString::fromUtf16(dpt));
+        EXPECT_EQ(saisie.Texte(Dpt_A), QString::fromUtf16(dpt));
     }
     Entre(u"DPLF", u"");
-    EXPECT_EQ(vue.focus, Dpt_A);
+    EXPECT_EQ(saisie.Focus(), Dpt_A);
     Entre(u"DCF", u"");
-    EXPECT_EQ(vue.focus, Dpt_A);
+    EXPECT_EQ(saisie.Focus(), Dpt_A);
 }

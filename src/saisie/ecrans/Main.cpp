@@ -13,37 +13,36 @@
 #include "saisie/Options.h"
 #include "saisie/QSO_Courant.h"
 #include "saisie/Repos.h"
+#include "saisie/ecrans/Atelier.h"
 #include "saisie/ecrans/Menus.h"
+#include "saisie/ecrans/Zone_Saisie.h"
 
 #include <QAction>
 #include <QApplication>
-#include <QCheckBox>
 #include <QCloseEvent>
 #include <QGroupBox>
 #include <QLabel>
 #include <QMenuBar>
+#include <QMetaEnum>
 #include <QPushButton>
 #include <QVBoxLayout>
-
-#include <utility>
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
-/// Where the text of a field or combo is typed; nullptr for other controls.
-QLineEdit *Ligne_De_Texte(QWidget *controle)
+/// The controls whose colour follows the focus.
+bool Se_Colore(Controle controle)
 {
-    if (const auto *combo = qobject_cast<QComboBox *>(controle))
-        return combo->lineEdit();
-    return qobject_cast<QLineEdit *>(controle);
+    return Est_Champ(controle) || controle == Controle::Valide_A;
 }
 
 } // namespace
 
-Main::Main(const Ports &ports, Etat_Commun &etat) : poste_{ports, etat, *this}
+Main::Main(const Ports &ports, Etat_Commun &etat) : poste_{ports, etat, ecran_}
 {
-    setObjectName(u"Main"_s);
+    setObjectName(Nom(Controle::Main));
+    controles_.Pose(Controle::Main, {.widget = this, .ecrit = [this](const QString &titre) { setWindowTitle(titre); }});
     auto *centre = new QWidget(this);
     auto *pile = new QVBoxLayout(centre);
     pile->addWidget(Bandeau_Station(controles_, centre));
@@ -51,26 +50,21 @@ Main::Main(const Ports &ports, Etat_Commun &etat) : poste_{ports, etat, *this}
     pile->addWidget(Construit_Liste(), 1);
     setCentralWidget(centre);
 
-    for (const auto &[controle, widget] : controles_)
-        if (Est_Champ(controle) || controle == Controle::Valide_A)
-            Colore(widget, couleur_finie);
+    Montre_Les_Valeurs();
     Relie_Champs();
     Relie_Dip();
     Relie_Boutons();
     Relie_Liste();
-    connect(&seconde_, &QTimer::timeout, this, [this] { Tique(poste_, *this); });
-    connect(qApp, &QApplication::focusChanged, &suivi_du_focus_, [this](QWidget *, QWidget *maintenant) {
-        if (maintenant && maintenant->window() == this)
-            Marque_Courant(maintenant);
-    });
+    connect(&seconde_, &QTimer::timeout, this, [this] { Tique(poste_, saisie_); });
+    connect(qApp, &QApplication::focusChanged, &suivi_du_focus_, [this] { Suit_Le_Focus(); });
 }
 
 void Main::Installe_Menus(Commandes &commandes)
 {
     Construit_Menus(*menuBar(), poste_.ecrans, commandes);
     Relie_Options();
-    Relie_Bouton(u"Detail"_s, [this, &commandes] { Presse_Detail(poste_, commandes); });
-    Relie_Bouton(u"Detail_1"_s, [this, &commandes] { Presse_Detail_1(poste_, commandes); });
+    Relie_Bouton(Controle::Detail, [this, &commandes] { Presse_Detail(poste_, commandes); });
+    Relie_Bouton(Controle::Detail_1, [this, &commandes] { Presse_Detail_1(poste_, commandes); });
 }
 
 QWidget *Main::Construit_Liste()
@@ -81,69 +75,77 @@ QWidget *Main::Construit_Liste()
     liste_ = Nomme(new Liste_Fixe(cadre), u"Liste_QSO"_s);
     liste_->setToolTip(conseil);
     liste_->setAccessibleName(u"QSO du log"_s);
-    auto *entete = Nomme(new QLabel, u"Label_Liste_QSO"_s, entete_liste_qso.toString());
-    controles_[Controle::Label_Liste_QSO] = entete;
-    liste_->Pose_Entete(entete);
+    liste_->Pose_Entete(Atelier(controles_, cadre).Etiquette(Controle::Label_Liste_QSO));
     liste_->Reserve(static_cast<int>(colonnes_affichage::longueur), 22);
     auto *pile = new QVBoxLayout(cadre);
     pile->addWidget(liste_);
     return cadre;
 }
 
+void Main::Montre_Les_Valeurs()
+{
+    saisie_.Se_Montre([this](Controle controle, Aspect aspect) {
+        controles_.Montre(controle, aspect);
+        if (aspect == Aspect::Focus)
+            Marque_Courant();
+    });
+    ecran_.Se_Montre({.liste = [this] { Montre_Liste(); },
+                      .selection = [this](std::size_t rang) { liste_->Place_Sur(static_cast<int>(rang)); }});
+}
+
 void Main::Relie_Champs()
 {
-    for (const auto &[controle, widget] : controles_) {
-        if (!Est_Champ(controle))
-            continue;
-        const Controle champ = controle;
-        new Chaine_Entree(widget, {.entree = [this, champ] { Entree(poste_, *this, champ); },
-                                   .accepte = [this, champ] { return Accepte_Touche(poste_, *this, champ); },
-                                   .avant = [this, champ](bool retour) { Avant_Touche(poste_, *this, champ, retour); },
-                                   .apres = [this, champ] { Apres_Touche(poste_, *this, champ); }});
+    for (int rang = 0; Est_Champ(static_cast<Controle>(rang)); ++rang) {
+        const auto champ = static_cast<Controle>(rang);
+        new Chaine_Entree(controles_.Widget(champ),
+                          {.entree = [this, champ] { Entree(poste_, saisie_, champ); },
+                           .accepte = [this, champ] { return Accepte_Touche(poste_, saisie_, champ); },
+                           .avant = [this, champ](bool retour) { Avant_Touche(saisie_, champ, retour); },
+                           .apres = [this, champ] { Apres_Touche(poste_, saisie_, champ); }});
+        Colore(controles_.Widget(champ), couleur_finie);
     }
+    Colore(controles_.Widget(Controle::Valide_A), couleur_finie);
 }
 
 void Main::Relie_Dip()
 {
-    auto *dip = qobject_cast<Combo *>(controles_.at(Controle::Dip_A));
-    connect(dip, &Combo::Choisie, this, [this] {
-        if (Accepte_Touche(poste_, *this, Controle::Dip_A))
-            Entree(poste_, *this, Controle::Dip_A);
+    connect(qobject_cast<Combo *>(controles_.Widget(Controle::Dip_A)), &Combo::Choisie, this, [this] {
+        if (Accepte_Touche(poste_, saisie_, Controle::Dip_A))
+            Entree(poste_, saisie_, Controle::Dip_A);
     });
 }
 
 void Main::Relie_Boutons()
 {
-    Relie_Bouton(u"Valide_A"_s, [this] { Valide_QSO(poste_, *this); });
-    Relie_Bouton(u"Efface_A"_s, [this] { Efface(); });
-    Relie_Bouton(u"Annule_Saisie"_s, [this] { Supprime_QSO(poste_, *this); });
-    Relie_Bouton(u"Ajout_QSO"_s, [this] { Commence_Insertion(poste_, *this); });
-    Relie_Bouton(u"Recherche"_s, [this] { poste_.ecrans.Montre(u"Recherche_Indicatif"_s); });
+    Relie_Bouton(Controle::Valide_A, [this] { Valide_QSO(poste_, saisie_); });
+    Relie_Bouton(Controle::Efface_A, [this] { Efface_Tout(saisie_); });
+    Relie_Bouton(Controle::Annule_Saisie, [this] { Supprime_QSO(poste_, saisie_); });
+    Relie_Bouton(Controle::Ajout_QSO, [this] { Commence_Insertion(poste_, saisie_); });
+    Relie_Bouton(Controle::Recherche, [this] { poste_.ecrans.Montre(u"Recherche_Indicatif"_s); });
 }
 
-void Main::Relie_Bouton(const QString &nom, const std::function<void()> &action)
+void Main::Relie_Bouton(Controle bouton, const std::function<void()> &action)
 {
-    connect(findChild<QPushButton *>(nom), &QPushButton::clicked, this, action);
+    connect(qobject_cast<QPushButton *>(controles_.Widget(bouton)), &QPushButton::clicked, this, action);
 }
 
 void Main::Relie_Liste()
 {
-    connect(liste_, &Liste_Fixe::Cliquee, this, [this](int rang) { Clic_Liste(poste_, *this, liste_->Entree(rang)); });
+    connect(liste_, &Liste_Fixe::Cliquee, this,
+            [this](int rang) { ecran_.Selectionne_QSO(static_cast<std::size_t>(rang)); });
     connect(liste_, &Liste_Fixe::Double_Cliquee, this,
-            [this](int rang) { Double_Clic_Liste(poste_, *this, liste_->Entree(rang)); });
+            [this](int rang) { Double_Clic_Liste(poste_, saisie_, liste_->Entree(rang)); });
 }
 
 void Main::Relie_Options()
 {
     Relie_Menu(u"Mnu_Quitter"_s, [this] { close(); });
-    Relie_Menu(u"Mnu_Date_Auto_Oui"_s, [this] { Choisit_Saisie(poste_, *this, false); });
-    Relie_Menu(u"Mnu_Date_Auto_Non"_s, [this] { Choisit_Saisie(poste_, *this, true); });
-    Relie_Menu(u"Mnu_Sep_Oui"_s, [this] { Choisit_Separateur(poste_, *this, true); });
-    Relie_Menu(u"Mnu_Sep_Non"_s, [this] { Choisit_Separateur(poste_, *this, false); });
     Relie_Menu(u"Mnu_A_Propos"_s, [this] { Affiche_A_Propos(poste_); });
     Relie_Menu(u"Mnu_Historique"_s, [this] { Affiche_Historique(poste_); });
-    Coche_Saisie_Differee(false);
-    Coche_Separateur_Auto(false);
+    Relie_Option(Controle::Mnu_Date_Auto_Oui, [this] { Choisit_Saisie(poste_, saisie_, false); });
+    Relie_Option(Controle::Mnu_Date_Auto_Non, [this] { Choisit_Saisie(poste_, saisie_, true); });
+    Relie_Option(Controle::Mnu_Sep_Oui, [this] { Choisit_Separateur(poste_, saisie_, true); });
+    Relie_Option(Controle::Mnu_Sep_Non, [this] { Choisit_Separateur(poste_, saisie_, false); });
 }
 
 void Main::Relie_Menu(const QString &nom, const std::function<void()> &action)
@@ -151,140 +153,22 @@ void Main::Relie_Menu(const QString &nom, const std::function<void()> &action)
     connect(findChild<QAction *>(nom), &QAction::triggered, this, action);
 }
 
-void Main::Coche_Paire(const QString &nom, bool coche)
+void Main::Relie_Option(Controle option, const std::function<void()> &action)
 {
-    findChild<QAction *>(nom + u"_Oui")->setChecked(coche);
-    findChild<QAction *>(nom + u"_Non")->setChecked(!coche);
+    auto *entree = findChild<QAction *>(Nom(option));
+    controles_.Pose(option, {.coche = [entree](bool coche) { entree->setChecked(coche); }});
+    Relie_Menu(Nom(option), action);
 }
 
-void Main::Remplit_Liste(Lignes_Texte lignes)
+void Main::Montre_Liste()
 {
-    lignes_ = std::move(lignes);
-    liste_->Remplit(lignes_.size(), [this](std::size_t rang) { return Ligne_Affichage(rang + 1, lignes_[rang]); });
+    liste_->Remplit(ecran_.Liste_QSO().size(),
+                    [this](std::size_t rang) { return Ligne_Affichage(rang + 1, ecran_.Liste_QSO()[rang]); });
 }
 
-void Main::Selectionne_Derniere()
+void Main::Ouvre()
 {
-    liste_->Selectionne(liste_->Nombre() - 1);
-}
-
-void Main::Selectionne_QSO(std::size_t rang)
-{
-    liste_->Selectionne(static_cast<int>(rang));
-}
-
-QString Main::QSO_Selectionne() const
-{
-    return liste_->Rang_Courant() < 0 ? QString() : liste_->Entree(liste_->Rang_Courant());
-}
-
-void Main::Efface()
-{
-    Efface_Tout(poste_.etat, *this);
-}
-
-void Main::Efface_Saisie()
-{
-    Efface_Champs(poste_.etat, *this);
-}
-
-QString Main::Texte(Controle controle) const
-{
-    const QWidget *widget = controles_.at(controle);
-    if (const auto *champ = qobject_cast<const QLineEdit *>(widget))
-        return champ->text();
-    if (const auto *combo = qobject_cast<const QComboBox *>(widget))
-        return combo->currentText();
-    if (const auto *etiquette = qobject_cast<const QLabel *>(widget))
-        return etiquette->text();
-    if (const auto *cadre = qobject_cast<const QGroupBox *>(widget))
-        return cadre->title();
-    return qobject_cast<const QAbstractButton *>(widget)->text();
-}
-
-void Main::Ecrit(Controle controle, const QString &texte)
-{
-    QWidget *widget = controles_.at(controle);
-    if (auto *champ = qobject_cast<QLineEdit *>(widget)) {
-        champ->setText(texte);
-        champ->setCursorPosition(0);
-    } else if (auto *combo = qobject_cast<QComboBox *>(widget)) {
-        combo->setCurrentIndex(combo->findText(texte, Qt::MatchExactly | Qt::MatchCaseSensitive));
-        combo->setEditText(texte);
-    } else if (auto *etiquette = qobject_cast<QLabel *>(widget)) {
-        etiquette->setText(texte);
-    } else if (auto *cadre = qobject_cast<QGroupBox *>(widget)) {
-        cadre->setTitle(texte);
-    } else {
-        qobject_cast<QAbstractButton *>(widget)->setText(texte);
-    }
-}
-
-int Main::Indice_Combo(Controle combo) const
-{
-    return Indice_Du_Texte(*qobject_cast<QComboBox *>(controles_.at(combo)));
-}
-
-int Main::Nombre_Combo(Controle combo) const
-{
-    return qobject_cast<QComboBox *>(controles_.at(combo))->count();
-}
-
-void Main::Choisit(Controle combo, int indice)
-{
-    auto *choix = qobject_cast<QComboBox *>(controles_.at(combo));
-    choix->setCurrentIndex(indice);
-    // A free text stays in the field when the place was the same before.
-    choix->setEditText(choix->itemText(indice));
-}
-
-bool Main::QSL_Coche() const
-{
-    return qobject_cast<QCheckBox *>(controles_.at(Controle::QSL_A))->isChecked();
-}
-
-void Main::Coche_QSL(bool coche)
-{
-    qobject_cast<QCheckBox *>(controles_.at(Controle::QSL_A))->setChecked(coche);
-}
-
-bool Main::Est_Actif(Controle controle) const
-{
-    return controles_.at(controle)->isEnabled();
-}
-
-void Main::Active(Controle controle, bool actif)
-{
-    controles_.at(controle)->setEnabled(actif);
-}
-
-void Main::Donne_Focus(Controle controle)
-{
-    QWidget *widget = controles_.at(controle);
-    widget->setFocus(Qt::OtherFocusReason);
-    if (QLineEdit *champ = Ligne_De_Texte(widget))
-        champ->selectAll();
-    Marque_Courant(widget);
-}
-
-void Main::Curseur_A_La_Fin(Controle champ)
-{
-    Ligne_De_Texte(controles_.at(champ))->end(false);
-}
-
-void Main::Coche_Saisie_Differee(bool differee)
-{
-    Coche_Paire(u"Mnu_Date_Auto"_s, !differee);
-}
-
-void Main::Coche_Separateur_Auto(bool automatique)
-{
-    Coche_Paire(u"Mnu_Sep"_s, automatique);
-}
-
-void Main::Montre_Ecran()
-{
-    Tique(poste_, *this);
+    Tique(poste_, saisie_);
     seconde_.start(1000);
     Centre(*this);
     show();
@@ -297,14 +181,21 @@ void Main::closeEvent(QCloseEvent *evenement)
     QCoreApplication::quit();
 }
 
-void Main::Marque_Courant(QWidget *controle)
+void Main::Suit_Le_Focus()
+{
+    const QWidget *maintenant = QApplication::focusWidget();
+    if (!maintenant || maintenant->window() != this)
+        return;
+    saisie_.Recoit_Focus(controles_.Qui_Est(maintenant));
+    Marque_Courant();
+}
+
+void Main::Marque_Courant()
 {
     if (courant_)
         Colore(courant_, couleur_finie);
-    courant_ = nullptr;
-    for (const auto &[nom, widget] : controles_)
-        if (widget == controle && (Est_Champ(nom) || nom == Controle::Valide_A))
-            courant_ = widget;
+    const std::optional<Controle> focus = saisie_.Focus();
+    courant_ = focus && Se_Colore(*focus) ? controles_.Widget(*focus) : nullptr;
     if (courant_)
         Colore(courant_, couleur_courante);
 }

@@ -14,10 +14,10 @@
 
 using namespace Qt::StringLiterals;
 
-Station::Station(Poste &poste, Vue_Saisie &vue)
+Station::Station(Poste &poste, Saisie &saisie)
     : Ecran(u"Station"_s, u"Selection Indicaif"_s),
       poste_(poste),
-      vue_(vue),
+      saisie_(saisie),
       indicatif_(Nomme(new Champ_Saisie(14, this), u"New_Indicatif"_s)),
       validation_(Nomme(new QPushButton(this), u"Validation"_s, u"Validez"_s))
 {
@@ -60,6 +60,6 @@ void Station::Valide()
         indicatif_->setFocus();
         return;
     }
-    Change_Station(poste_, vue_, indicatif);
+    Change_Station(poste_, saisie_, indicatif);
     close();
 }

@@ -5,20 +5,20 @@
 struct Poste;
 class QLineEdit;
 class QPushButton;
-class Vue_Saisie;
+class Saisie;
 
 /// The choice of the station's call sign.
 class Station : public Ecran {
     Q_OBJECT
 
 public:
-    Station(Poste &poste, Vue_Saisie &vue);
+    Station(Poste &poste, Saisie &saisie);
 
 private:
     void Valide();
 
     Poste &poste_;
-    Vue_Saisie &vue_;
+    Saisie &saisie_;
     QLineEdit *indicatif_;
     QPushButton *validation_;
 };
