@@ -1,4 +1,4 @@
-# vorlain_entetes(<target> <coeur|ecrans|essais>)
+# vorlain_entetes(<target> <coeur|ecrans|essais|essais_ecrans>)
 #
 # Gives a target the precompiled headers of that kind (src/entetes), compiled once for all targets of the kind. With
 # VORLAIN_PCH=OFF every source stands on its own includes; so clang-tidy sees it.

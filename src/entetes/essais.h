@@ -1,7 +1,7 @@
 #pragma once
 
-// As ecrans.h, for the tests.
+// As coeur.h, for the tests of rules and operations.
 
-#include "ecrans.h"
+#include "coeur.h"
 
 #include <gtest/gtest.h>

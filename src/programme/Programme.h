@@ -2,10 +2,10 @@
 
 #include "log/Etat_Commun.h"
 #include "plateforme/Vue_Web.h"
+#include "plateforme/disque/Dossier_Disque.h"
+#include "plateforme/disque/Reglages_Qt.h"
 #include "plateforme/qt/Boites_Qt.h"
-#include "plateforme/qt/Dossier_Disque.h"
 #include "plateforme/qt/Imprimante_Qt.h"
-#include "plateforme/qt/Reglages_Qt.h"
 #include "plateforme/qt/Telechargement_Qt.h"
 #include "programme/Registre.h"
 #include "saisie/ecrans/Main.h"

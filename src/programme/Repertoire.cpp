@@ -2,7 +2,7 @@
 
 #include "log/Copies.h"
 #include "plateforme/Erreur_Execution.h"
-#include "plateforme/qt/Fichier_Sur.h"
+#include "plateforme/disque/Fichier_Sur.h"
 
 #include <QDir>
 #include <QStandardPaths>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "plateforme/qt/Verrou.h"
+#include "plateforme/disque/Verrou.h"
 
 #include <QString>
 

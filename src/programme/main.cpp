@@ -1,6 +1,6 @@
 #include "plateforme/Erreur_Execution.h"
+#include "plateforme/disque/Fichier_Sur.h"
 #include "plateforme/qt/Boites_Qt.h"
-#include "plateforme/qt/Fichier_Sur.h"
 #include "plateforme/qt/Horloge_Systeme.h"
 #include "programme/Application.h"
 #include "programme/Ligne_Commande.h"

@@ -10,7 +10,7 @@
 #include "faux/Vues_Web_Fausses.h"
 #include "log/Etat_Commun.h"
 #include "log/Poste.h"
-#include "plateforme/qt/Dossier_Disque.h"
+#include "plateforme/disque/Dossier_Disque.h"
 
 #include <QDir>
 #include <QFile>

@@ -1,6 +1,9 @@
+#include "faux/Vues_Web_Fausses.h"
+
 #include <QApplication>
 #include <QLibraryInfo>
 #include <QTranslator>
+#include <QWidget>
 
 #include <gtest/gtest.h>
 
@@ -16,5 +19,6 @@ int main(int nombre, char **arguments)
     QTranslator francais;
     if (francais.load(QStringLiteral("qtbase_fr"), QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
         QCoreApplication::installTranslator(&francais);
+    Vues_Web_Fausses::controle_vide = [](QWidget *parent) { return new QWidget(parent); };
     return RUN_ALL_TESTS();
 }

@@ -9,7 +9,7 @@
 #include "log/Reglages_Station.h"
 #include "outils/Supprime_Doubles.h"
 #include "outils/Trie_Log.h"
-#include "plateforme/qt/Fichier_Sur.h"
+#include "plateforme/disque/Fichier_Sur.h"
 #include "programme/Demarrage.h"
 #include "programme/Repertoire.h"
 #include "saisie/Changement_Station.h"

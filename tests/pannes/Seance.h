@@ -2,7 +2,7 @@
 
 #include "Terrain.h"
 #include "faux/Poste_Essai.h"
-#include "plateforme/qt/Reglages_Qt.h"
+#include "plateforme/disque/Reglages_Qt.h"
 #include "prechargee/Pannes_Fichiers.h"
 #include "saisie/Ecran_Du_Log.h"
 #include "saisie/Saisie.h"

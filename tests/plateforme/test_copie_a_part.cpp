@@ -1,6 +1,6 @@
 #include "faux/Impression.h"
 #include "faux/Poste_Essai.h"
-#include "plateforme/qt/Fichier_Sur.h"
+#include "plateforme/disque/Fichier_Sur.h"
 
 #include <gtest/gtest.h>
 

@@ -2,7 +2,7 @@
 #include "faux/Fils.h"
 #include "faux/Impression.h"
 #include "faux/Poste_Essai.h"
-#include "plateforme/qt/Reglages_Qt.h"
+#include "plateforme/disque/Reglages_Qt.h"
 
 #include <gtest/gtest.h>
 

@@ -1,8 +1,8 @@
 #include "plateforme/qt/Imprimante_Qt.h"
 
 #include "plateforme/Tolere.h"
+#include "plateforme/disque/Fichier_Sur.h"
 #include "plateforme/qt/Feuilles.h"
-#include "plateforme/qt/Fichier_Sur.h"
 #include "plateforme/qt/Mise_En_Page.h"
 #include "plateforme/qt/Refus_Du_Serveur.h"
 

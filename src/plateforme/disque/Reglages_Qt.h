@@ -1,7 +1,7 @@
 #pragma once
 
 #include "plateforme/Reglages.h"
-#include "plateforme/qt/Magasin_Reglages.h"
+#include "plateforme/disque/Magasin_Reglages.h"
 
 #include <QSettings>
 

@@ -1,7 +1,7 @@
-#include "plateforme/qt/Fichier_Sur.h"
+#include "plateforme/disque/Fichier_Sur.h"
 
-#include "plateforme/qt/Descripteur.h"
-#include "plateforme/qt/Temporaire.h"
+#include "plateforme/disque/Descripteur.h"
+#include "plateforme/disque/Temporaire.h"
 
 #include <QDir>
 #include <QFile>

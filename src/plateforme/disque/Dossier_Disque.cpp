@@ -1,9 +1,9 @@
-#include "plateforme/qt/Dossier_Disque.h"
+#include "plateforme/disque/Dossier_Disque.h"
 
 #include "plateforme/Erreur_Execution.h"
 #include "plateforme/Windows_1252.h"
-#include "plateforme/qt/Copie_A_Part.h"
-#include "plateforme/qt/Fichier_Sur.h"
+#include "plateforme/disque/Copie_A_Part.h"
+#include "plateforme/disque/Fichier_Sur.h"
 
 #include <QDir>
 

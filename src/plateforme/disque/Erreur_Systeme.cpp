@@ -1,4 +1,4 @@
-#include "plateforme/qt/Erreur_Systeme.h"
+#include "plateforme/disque/Erreur_Systeme.h"
 
 #include <QDir>
 

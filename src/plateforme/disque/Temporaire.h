@@ -1,6 +1,6 @@
 #pragma once
 
-#include "plateforme/qt/Descripteur.h"
+#include "plateforme/disque/Descripteur.h"
 
 #include <optional>
 

@@ -1,8 +1,8 @@
-#include "plateforme/qt/Reglages_Qt.h"
+#include "plateforme/disque/Reglages_Qt.h"
 
 #include "plateforme/Erreur_Execution.h"
-#include "plateforme/qt/Fichier_Sur.h"
-#include "plateforme/qt/Verrou.h"
+#include "plateforme/disque/Fichier_Sur.h"
+#include "plateforme/disque/Verrou.h"
 
 #include <QFileInfo>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "plateforme/qt/Erreur_Systeme.h"
+#include "plateforme/disque/Erreur_Systeme.h"
 
 #include <QByteArray>
 #include <QByteArrayView>

@@ -1,4 +1,4 @@
-#include "plateforme/qt/Descripteur.h"
+#include "plateforme/disque/Descripteur.h"
 
 #include <QFile>
 

@@ -1,6 +1,6 @@
-#include "plateforme/qt/Verrou.h"
+#include "plateforme/disque/Verrou.h"
 
-#include "plateforme/qt/Descripteur.h"
+#include "plateforme/disque/Descripteur.h"
 
 #include <QFile>
 #include <QSysInfo>

@@ -1,6 +1,6 @@
-#include "plateforme/qt/Magasin_Reglages.h"
+#include "plateforme/disque/Magasin_Reglages.h"
 
-#include "plateforme/qt/Descripteur.h"
+#include "plateforme/disque/Descripteur.h"
 
 #include <QSettings>
 

@@ -1,7 +1,7 @@
-#include "plateforme/qt/Copie_A_Part.h"
+#include "plateforme/disque/Copie_A_Part.h"
 
-#include "plateforme/qt/Descripteur.h"
-#include "plateforme/qt/Fichier_Sur.h"
+#include "plateforme/disque/Descripteur.h"
+#include "plateforme/disque/Fichier_Sur.h"
 
 #include <QFile>
 #include <QFileInfo>

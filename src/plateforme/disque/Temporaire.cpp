@@ -1,6 +1,6 @@
-#include "plateforme/qt/Temporaire.h"
+#include "plateforme/disque/Temporaire.h"
 
-#include "plateforme/qt/Fichier_Sur.h"
+#include "plateforme/disque/Fichier_Sur.h"
 
 #include <QDirIterator>
 #include <QFile>
