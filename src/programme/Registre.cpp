@@ -41,6 +41,13 @@ void Registre::Inscrit_Commande(const QString &nom, std::function<void()> comman
     commandes_.insert(nom, std::move(commande));
 }
 
+QStringList Registre::Les_Noms() const
+{
+    QStringList noms = inscriptions_.keys();
+    noms.sort();
+    return noms;
+}
+
 void Registre::Montre(const QString &nom)
 {
     if (Ecran *ecran = Ouvre(nom))

@@ -21,6 +21,9 @@ public:
     void Inscrit_Ecran(Inscription ecran);
     void Inscrit_Commande(const QString &nom, std::function<void()> commande);
 
+    /// The names of all screens, sorted.
+    [[nodiscard]] QStringList Les_Noms() const;
+
     void Montre(const QString &nom) override;
     void Montre_Modal(const QString &nom) override;
     [[nodiscard]] bool Connait(const QString &nom) const override;

@@ -1,4 +1,4 @@
-#include "Attendus.h"
+#include "faux/Attendus.h"
 #include "Ouvrages_Essai.h"
 #include "diplomes/ADIF_Ouvrages.h"
 #include "diplomes/Charge_Liste.h"

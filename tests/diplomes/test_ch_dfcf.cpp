@@ -1,4 +1,4 @@
-#include "Attendus.h"
+#include "faux/Attendus.h"
 #include "Charge_Essai.h"
 #include "diplomes/regles/Regle_Challenge.h"
 #include "plateforme/Erreur_Execution.h"

@@ -1,4 +1,4 @@
-#include "Attendus.h"
+#include "faux/Attendus.h"
 #include "Log_Essai.h"
 #include "diplomes/ADIF_Canal.h"
 #include "diplomes/Charge_Challenge.h"

@@ -1,4 +1,4 @@
-#include "Attendus.h"
+#include "faux/Attendus.h"
 #include "Fiche_Essai.h"
 #include "diplomes/Charge_Fiche.h"
 #include "diplomes/Charge_Liste.h"
