@@ -13,6 +13,8 @@ struct Etat_Commun {
     std::optional<Diplome> challenge;
     /// Where the last ADIF file of this run was chosen; empty before the first.
     QString dossier_adif;
+    /// A file that was asked for from outside, full path: the next screen ADIF takes it over as its choice.
+    QString fichier_adif;
     QString version;
     QString historique;
 

@@ -4,6 +4,11 @@
 #include "programme/Demarrage.h"
 #include "programme/Inscriptions.h"
 
+#include <QDir>
+#include <QFileInfo>
+
+using namespace Qt::StringLiterals;
+
 Programme::Programme(const QString &repertoire, const Horloge &horloge)
     : dossier_(repertoire),
       vues_web_(Vues_Web_Du_Programme()),
@@ -26,4 +31,17 @@ void Programme::Installe()
 void Programme::Ouvre()
 {
     Demarre(ecran_.Le_Poste(), ecran_.La_Saisie(), [this] { ecran_.Ouvre(); });
+}
+
+void Programme::Propose(const QString &fichier_adif)
+{
+    const QString nom = QDir::toNativeSeparators(fichier_adif);
+    if (Est_Neuf())
+        return boites_.Message(u"Entrez d'abord votre indicatif, puis importez %1"_s.arg(nom));
+    if (!QFileInfo(fichier_adif).isFile())
+        return boites_.Message(u"Le fichier %1 n'existe pas"_s.arg(nom));
+    etat_.fichier_adif = fichier_adif;
+    registre_.Execute(u"Import_ADIF"_s);
+    // After a no the next import is the operator's own.
+    etat_.fichier_adif.clear();
 }

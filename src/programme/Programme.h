@@ -23,6 +23,9 @@ public:
     void Installe();
     /// Runs the start-up; the main screen is then open.
     void Ouvre();
+    /// Asks for the import of a file, full path; a yes opens the screen ADIF with it chosen. A file that is not there
+    /// is told, and that a station is needed first.
+    void Propose(const QString &fichier_adif);
 
     [[nodiscard]] Main &Ecran() { return ecran_; }
     [[nodiscard]] Registre &Les_Ecrans() { return registre_; }

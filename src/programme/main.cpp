@@ -28,6 +28,8 @@ int Tourne(const Ligne_Commande &ligne)
     if (absent || programme.Est_Neuf())
         programme.Installe();
     programme.Ouvre();
+    if (!ligne.fichier_adif.isEmpty())
+        programme.Propose(ligne.fichier_adif);
     return QApplication::exec();
 }
 

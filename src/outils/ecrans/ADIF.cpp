@@ -16,6 +16,8 @@
 #include <QRadioButton>
 #include <QVBoxLayout>
 
+#include <utility>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -63,7 +65,9 @@ public:
     std::optional<QString> Choisit_Fichier() override
     {
         QString &dossier = poste_.etat.dossier_adif;
-        QString chemin = Chemin_Choisi(*ecran_, dossier.isEmpty() ? poste_.dossier.Repertoire_Appli() : dossier);
+        QString chemin = ecran_->Prend_Le_Fichier();
+        if (chemin.isEmpty())
+            chemin = Chemin_Choisi(*ecran_, dossier.isEmpty() ? poste_.dossier.Repertoire_Appli() : dossier);
         if (!ecran_)
             return std::nullopt;
         if (!chemin.isEmpty())
@@ -90,10 +94,14 @@ ADIF::ADIF(Poste &poste)
     : Ecran(u"ADIF"_s, u"Importer un fichier ADIF"_s),
       poste_(poste),
       titre_(Nomme(new QLabel(this), u"Label2"_s)),
+      fichier_(std::exchange(poste.etat.fichier_adif, {})),
+      nom_fichier_(Nomme(new QLabel(this), u"Fichier"_s, u"Fichier : "_s + QFileInfo(fichier_).fileName())),
       progression_(Nomme(new QProgressBar(this), u"Progression"_s))
 {
     auto *colonne = new QVBoxLayout(this);
     colonne->addWidget(titre_, 0, Qt::AlignHCenter);
+    colonne->addWidget(nom_fichier_, 0, Qt::AlignHCenter);
+    nom_fichier_->setVisible(!fichier_.isEmpty());
     colonne->addSpacing(fontMetrics().height());
     Pose_Formats(*colonne);
     colonne->addSpacing(fontMetrics().height());
@@ -153,6 +161,13 @@ void ADIF::Lance()
     Guichet guichet(*this);
     depuis_le_debut_.invalidate();
     Importe(poste_, {.multi = r_multi_->isChecked(), .ajout = ajout_->isChecked()}, guichet);
+}
+
+/// Once only: whoever was refused with it chooses another one.
+QString ADIF::Prend_Le_Fichier()
+{
+    nom_fichier_->hide();
+    return std::exchange(fichier_, {});
 }
 
 void ADIF::Avance(std::size_t faites, std::size_t total)

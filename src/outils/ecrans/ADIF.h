@@ -27,11 +27,15 @@ private:
     void Pose_Formats(QVBoxLayout &colonne);
     void Pose_Destinations(QVBoxLayout &colonne);
     void Lance();
+    QString Prend_Le_Fichier();
     void Avance(std::size_t faites, std::size_t total);
     void Repose();
 
     Poste &poste_;
     QLabel *titre_;
+    /// The file that the next press imports without asking; empty if the operator is to choose one.
+    QString fichier_;
+    QLabel *nom_fichier_;
     QRadioButton *r_multi_ = nullptr;
     QRadioButton *remplace_ = nullptr;
     QRadioButton *ajout_ = nullptr;
