@@ -1,9 +1,9 @@
-#include "faux/Attendus.h"
 #include "Ouvrages_Essai.h"
 #include "diplomes/ADIF_Ouvrages.h"
 #include "diplomes/Charge_Liste.h"
 #include "diplomes/regles/Ligne_ADIF_Ouvrage.h"
 #include "diplomes/tables/Tables.h"
+#include "faux/Attendus.h"
 #include "faux/Echec.h"
 
 #include <gtest/gtest.h>

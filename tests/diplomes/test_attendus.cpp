@@ -1,10 +1,10 @@
-#include "faux/Attendus.h"
 #include "Fiche_Essai.h"
 #include "diplomes/Affiche_Option.h"
 #include "diplomes/Charge_Fiche.h"
 #include "diplomes/Charge_Liste.h"
 #include "diplomes/Sorties_Liste.h"
 #include "diplomes/tables/Tables.h"
+#include "faux/Attendus.h"
 #include "plateforme/Tolere.h"
 
 using namespace diplomes;

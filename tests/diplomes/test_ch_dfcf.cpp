@@ -1,6 +1,6 @@
-#include "faux/Attendus.h"
 #include "Charge_Essai.h"
 #include "diplomes/regles/Regle_Challenge.h"
+#include "faux/Attendus.h"
 #include "plateforme/Erreur_Execution.h"
 
 #include <map>

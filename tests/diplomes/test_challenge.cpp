@@ -1,8 +1,8 @@
-#include "faux/Attendus.h"
 #include "Log_Essai.h"
 #include "diplomes/ADIF_Canal.h"
 #include "diplomes/Charge_Challenge.h"
 #include "diplomes/regles/Canal.h"
+#include "faux/Attendus.h"
 #include "plateforme/Erreur_Execution.h"
 
 #include <gtest/gtest.h>

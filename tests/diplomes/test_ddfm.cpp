@@ -1,7 +1,7 @@
-#include "faux/Attendus.h"
 #include "Charge_Essai.h"
 #include "diplomes/Affiche_Option.h"
 #include "diplomes/regles/Regle_DDFM.h"
+#include "faux/Attendus.h"
 
 using namespace diplomes;
 

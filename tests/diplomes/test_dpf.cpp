@@ -1,10 +1,10 @@
-#include "faux/Attendus.h"
 #include "Charge_Essai.h"
 #include "diplomes/Affiche_Option.h"
 #include "diplomes/regles/Fiche_Des_Comptes.h"
 #include "diplomes/regles/Liste_DPF.h"
 #include "diplomes/regles/Provinces.h"
 #include "diplomes/regles/Regle_DPF.h"
+#include "faux/Attendus.h"
 
 #include <map>
 #include <set>

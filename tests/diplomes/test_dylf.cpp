@@ -1,4 +1,3 @@
-#include "faux/Attendus.h"
 #include "Fiche_Essai.h"
 #include "diplomes/Charge_Fiche.h"
 #include "diplomes/Charge_Liste.h"
@@ -6,6 +5,7 @@
 #include "diplomes/Sorties_Liste.h"
 #include "diplomes/regles/Points_DYLF.h"
 #include "diplomes/tables/Tables.h"
+#include "faux/Attendus.h"
 #include "faux/Echec.h"
 
 #include <gtest/gtest.h>

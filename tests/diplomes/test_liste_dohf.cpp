@@ -1,9 +1,9 @@
-#include "faux/Attendus.h"
 #include "Ouvrages_Essai.h"
 #include "diplomes/Charge_Liste.h"
 #include "diplomes/Sorties_Liste.h"
 #include "diplomes/regles/Remplit_Liste.h"
 #include "diplomes/tables/Tables.h"
+#include "faux/Attendus.h"
 #include "faux/Echec.h"
 
 #include <gtest/gtest.h>

@@ -1,6 +1,6 @@
-#include "faux/Attendus.h"
 #include "Charge_Essai.h"
 #include "diplomes/Affiche_Option.h"
+#include "faux/Attendus.h"
 #include "plateforme/Erreur_Execution.h"
 
 #include <map>

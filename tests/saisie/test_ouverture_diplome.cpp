@@ -51,7 +51,7 @@ TEST_F(Diplome_Choisi, le_log_qu_un_import_coupe_laissa_de_cote_revient_a_l_ouve
     essai.fichiers.Pose(u"F9ZZY_DLF.bak"_s, QSO({.ref = u"21001"_s}).toLatin1() + "\r\n");
     essai.dossier.Supprime(u"F9ZZY_DLF.log"_s);
     Ouvre(u"DLF");
-    EXPECT_EQ(vue.liste.size(), 1U);
+    EXPECT_EQ(essai.ecran_du_log.Liste_QSO().size(), 1U);
     EXPECT_EQ(
         essai.Messages(),
         std::vector<QString>{u"Une importation précédente a été interrompue, le log F9ZZY_DLF.log a été rétabli"_s});

@@ -133,7 +133,7 @@ TEST_F(Changement, une_station_dont_un_import_fut_coupe_n_est_pas_neuve_et_ses_l
     for (const QString &code : {u"DFCF"_s, u"Ch_DMF"_s})
         essai.fichiers.Pose(u"F4ABC_"_s + code + u".bak", log);
     essai.reglages.vorlain[{u"Setup F4ABC"_s, u"bande Utilisee"_s}] = u"6"_s;
-    Change_Station(essai.poste, essai.vue, u"F4ABC"_s);
+    Change_Station(essai.poste, essai.saisie, u"F4ABC"_s);
     for (const QString &code : {u"DFCF"_s, u"Ch_DMF"_s})
         EXPECT_EQ(essai.fichiers.Octets(u"F4ABC_"_s + code + u".log"), log);
     EXPECT_EQ(Reglage(u"Setup F4ABC"_s, u"bande Utilisee"_s), u"6"_s);
