@@ -3,6 +3,7 @@
 #include "listes/Fichiers_De_Depart.h"
 #include "programme/Demarrage.h"
 #include "programme/Inscriptions.h"
+#include "saisie/Ouverture_Diplome.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -15,6 +16,7 @@ Programme::Programme(const QString &repertoire, const Horloge &horloge)
       ecran_({dossier_, reglages_, horloge, boites_, registre_, imprimante_, telechargement_, *vues_web_}, etat_)
 {
     Inscrit(registre_, ecran_.Le_Poste(), ecran_.La_Saisie());
+    registre_.Previent([this] { Suit_L_Annee(ecran_.Le_Poste(), ecran_.La_Saisie()); });
     ecran_.Installe_Menus(registre_);
 }
 

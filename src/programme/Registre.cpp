@@ -75,6 +75,7 @@ bool Registre::Connait(const QString &nom) const
 
 void Registre::Suit_Le_Log()
 {
+    suiveur_();
     for (const QPointer<Ecran> &ecran : std::as_const(ouverts_))
         if (ecran)
             ecran->Suit_Le_Log();

@@ -8,6 +8,7 @@
 #include <QPointer>
 
 #include <functional>
+#include <utility>
 
 /// The screens and the commands of the program by name: the one place that knows which screen is open.
 class Registre : public Ecrans, public Commandes {
@@ -20,6 +21,9 @@ public:
 
     void Inscrit_Ecran(Inscription ecran);
     void Inscrit_Commande(const QString &nom, std::function<void()> commande);
+
+    /// Told before the open screens that another log stands on the main screen, which is none of them.
+    void Previent(std::function<void()> suiveur) { suiveur_ = std::move(suiveur); }
 
     /// The names of all screens, sorted.
     [[nodiscard]] QStringList Les_Noms() const;
@@ -41,4 +45,5 @@ private:
     QHash<QString, Inscription> inscriptions_;
     QHash<QString, QPointer<Ecran>> ouverts_;
     QHash<QString, std::function<void()>> commandes_;
+    std::function<void()> suiveur_ = [] {};
 };

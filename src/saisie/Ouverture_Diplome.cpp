@@ -71,6 +71,11 @@ void Ecrit_Habillage(Saisie &saisie, const Habillage &habillage)
     saisie.Ecrit(Controle::Label1, habillage.label1.toString());
 }
 
+void Nomme_L_Annee(const Poste &poste, Saisie &saisie, Diplome challenge)
+{
+    saisie.Ecrit(Controle::Frame3, Notice_De(challenge).habillage.frame3 + *poste.etat.station.Annee(challenge));
+}
+
 /// False if the operator closed the choice of a year without making one, and there is no log to show.
 bool Choisit_Annee_Challenge(Poste &poste, const Challenge &challenge)
 {
@@ -88,7 +93,7 @@ bool Habille_Challenge(Poste &poste, Saisie &saisie, const Challenge &challenge,
     if (!Choisit_Annee_Challenge(poste, challenge))
         return false;
     Ecrit_Habillage(saisie, habillage);
-    saisie.Ecrit(Controle::Frame3, habillage.frame3 + *poste.etat.station.Annee(challenge.diplome));
+    Nomme_L_Annee(poste, saisie, challenge.diplome);
     if (poste.reglages.Lit_Trelune(u"Setup"_s, cles::chemin_repertoire.toString(), u"Absent"_s) != u"Absent")
         saisie.Ecrit(Controle::Detail_1, u"Mise a jour via Trelune"_s);
     poste.boites.Message(challenge.rappel.toString());
@@ -169,6 +174,14 @@ void Ouvre_Diplome(Poste &poste, Saisie &saisie)
     saisie.Active(Controle::Bande_A, true);
     saisie.Donne_Focus(Controle::Bande_A);
     Repart_De_Zero(poste, saisie);
+}
+
+void Suit_L_Annee(const Poste &poste, Saisie &saisie)
+{
+    const std::optional<Diplome> ouvert = poste.etat.station.diplome;
+    // A start shows the log of a challenge before its frame is dressed: there is then no year to follow.
+    if (Est_Challenge(ouvert) && saisie.Texte(Controle::Frame3).startsWith(Notice_De(*ouvert).habillage.frame3))
+        Nomme_L_Annee(poste, saisie, *ouvert);
 }
 
 void Touche_Dip(Poste &poste, Saisie &saisie)

@@ -19,5 +19,8 @@ bool Accepte_Touche_Dip(Poste &poste);
 /// leaves Dip_A on the award that is open. Throws Erreur_Execution if the log is absent.
 void Ouvre_Diplome(Poste &poste, Saisie &saisie);
 
+/// The frame of a challenge names its year, which may have been chosen anew, or be that of another station now.
+void Suit_L_Annee(const Poste &poste, Saisie &saisie);
+
 /// Any other key of Dip_A: the code is remembered and the entry starts afresh; the current award stays.
 void Touche_Dip(Poste &poste, Saisie &saisie);

@@ -4,6 +4,7 @@
 #include "qsl/ecrans/Liste_A_Cocher.h"
 
 #include <QComboBox>
+#include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPointer>
@@ -52,6 +53,15 @@ protected:
                 conduite::Tape(*Trouve(ecran, u"New_Indicatif"_s), indicatif);
                 conduite::Entree(*Trouve(ecran, u"New_Indicatif"_s));
                 conduite::Entree(*Trouve(ecran, u"Validation"_s));
+            });
+    }
+    void Annee_DFCF(const QString &annee)
+    {
+        conduite::Pendant_Modal(
+            u"Select_Annee"_s, [this] { Controle_Nomme<QAction>(u"Mnu_Année_Ch_DFCF"_s).trigger(); },
+            [&](QWidget &choix) {
+                Trouve<QLineEdit>(choix, u"New_Annee"_s)->setText(annee);
+                Trouve<QPushButton>(choix, u"Validation"_s)->click();
             });
     }
     /// A screen asked for by name, as the buttons do.
@@ -349,11 +359,25 @@ TEST_F(Ecrans_Ouverts, une_autre_annee_vide_les_trouvailles_de_la_recherche)
     conduite::Entree(*champ);
     const auto *trouves = Trouve<QAbstractItemView>(*Fenetre(u"Recherche_Indicatif"_s), u"QSO_Effectues"_s);
     EXPECT_EQ(conduite::Rangees(*trouves).size(), 1U);
-    conduite::Pendant_Modal(
-        u"Select_Annee"_s, [this] { Controle_Nomme<QAction>(u"Mnu_Année_Ch_DFCF"_s).trigger(); },
-        [](QWidget &annee) {
-            Trouve<QLineEdit>(annee, u"New_Annee"_s)->setText(u"2026"_s);
-            Trouve<QPushButton>(annee, u"Validation"_s)->click();
-        });
+    Annee_DFCF(u"2026"_s);
     EXPECT_TRUE(conduite::Rangees(*trouves).empty());
+}
+
+TEST_F(Ecrans_Ouverts, le_cadre_nomme_l_annee_du_challenge_qui_est_a_l_ecran)
+{
+    Regle(section, u"Annee Challenge DFCF"_s, u"2025"_s);
+    Regle(u"Setup F4ABC"_s, u"Annee Challenge DFCF"_s, u"2023"_s);
+    Pose_Log(u"Ch_DFCF_2025"_s, QString());
+    fichiers.Pose(u"F4ABC_DFCF.log"_s, QByteArray());
+    fichiers.Pose(u"F4ABC_Ch_DFCF_2023.log"_s, QByteArray());
+    Commence(u"Ch_DFCF"_s);
+    const auto cadre = [this] { return Controle_Nomme<QGroupBox>(u"Frame3"_s).title(); };
+    EXPECT_EQ(cadre(), u"Challenge DFCF année 2025"_s);
+    Annee_DFCF(u"2026"_s);
+    EXPECT_EQ(cadre(), u"Challenge DFCF année 2026"_s);
+    Station(u"F4ABC"_s);
+    EXPECT_EQ(cadre(), u"Challenge DFCF année 2023"_s);
+    Diplome(u"DFCF"_s);
+    Annee_DFCF(u"2024"_s);
+    EXPECT_EQ(cadre(), u"Diplome des Forts et Chateaux de France"_s);
 }
