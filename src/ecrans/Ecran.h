@@ -27,7 +27,8 @@ enum class Reouverture {
 /// What a screen left open belongs to.
 enum class Attache {
     Libre,
-    Station ///< it shows logs of the station and closes when that changes
+    Station, ///< it shows logs of the station and closes when that changes
+    Log      ///< it shows, of several logs, the one on the main screen, and closes when another takes its place
 };
 
 /// A screen as it is registered: its name, what makes it, and what becomes of it while it is open.

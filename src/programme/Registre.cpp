@@ -76,6 +76,7 @@ bool Registre::Connait(const QString &nom) const
 void Registre::Suit_Le_Log()
 {
     suiveur_();
+    Ferme_Les_Attaches(Attache::Log);
     for (const QPointer<Ecran> &ecran : std::as_const(ouverts_))
         if (ecran)
             ecran->Suit_Le_Log();
@@ -83,11 +84,17 @@ void Registre::Suit_Le_Log()
 
 void Registre::Suit_La_Station()
 {
-    for (const Inscription &inscription : std::as_const(inscriptions_))
-        if (Ecran *ecran = Ouvert(inscription.nom);
-            ecran && inscription.attache == Attache::Station && !ecran->Garde_Ouvert())
-            Ferme(*ecran);
+    Ferme_Les_Attaches(Attache::Station);
     Suit_Le_Log();
+}
+
+void Registre::Ferme_Les_Attaches(Attache attache)
+{
+    for (const Inscription &inscription : std::as_const(inscriptions_))
+        if (Ecran *ecran = Ouvert(inscription.nom); ecran && inscription.attache == attache && !ecran->Garde_Ouvert()) {
+            Ferme(*ecran);
+            ouverts_.remove(inscription.nom);
+        }
 }
 
 void Registre::Execute(const QString &nom)

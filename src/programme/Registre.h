@@ -39,6 +39,8 @@ public:
 private:
     /// The screen of that name: the open one if it stays, else a new one; nullptr for a name that is not registered.
     Ecran *Ouvre(const QString &nom);
+    /// Closes the open screens that are attached to what changed; those that hold unsaved work stay.
+    void Ferme_Les_Attaches(Attache attache);
     /// The screen of that name if it is open, nullptr if not.
     [[nodiscard]] Ecran *Ouvert(const QString &nom) const;
 

@@ -363,6 +363,29 @@ TEST_F(Ecrans_Ouverts, une_autre_annee_vide_les_trouvailles_de_la_recherche)
     EXPECT_TRUE(conduite::Rangees(*trouves).empty());
 }
 
+TEST_F(Ecrans_Ouverts, la_fiche_d_un_challenge_ne_reste_pas_ouverte_sur_l_autre)
+{
+    for (const QString &code : {u"DFCF"_s, u"DMF"_s}) {
+        Regle(section, u"Annee Challenge "_s + code, u"2025"_s);
+        Pose_Log(u"Ch_"_s + code + u"_2025", QSO({.ref = u"77001A"_s}) + fin);
+    }
+    Pose_Log(u"DFCF"_s, QString());
+    Commence(u"Ch_DFCF"_s);
+    QPointer<QWidget> fiche = Montre(u"Diplomes_Ch_DFCF"_s);
+    const QPointer<QWidget> liste = Montre(u"Liste_Ch_DFCF"_s);
+    EXPECT_EQ(fiche->windowTitle(), u"Challenge DFCF année 2025"_s);
+    Diplome(u"Ch_DMF"_s);
+    EXPECT_FALSE(fiche && fiche->isVisible());
+    EXPECT_FALSE(liste && liste->isVisible());
+    fiche = Montre(u"Diplomes_Ch_DFCF"_s);
+    EXPECT_EQ(fiche->windowTitle(), u"Challenge DMF année 2025"_s);
+    // The sheet of a single award stays as it stands.
+    Diplome(u"DFCF"_s);
+    const QPointer<QWidget> chateaux = Montre(u"Diplomes_DFCF"_s);
+    Diplome(u"Ch_DMF"_s);
+    EXPECT_TRUE(chateaux && chateaux->isVisible());
+}
+
 TEST_F(Ecrans_Ouverts, le_cadre_nomme_l_annee_du_challenge_qui_est_a_l_ecran)
 {
     Regle(section, u"Annee Challenge DFCF"_s, u"2025"_s);
