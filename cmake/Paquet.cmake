@@ -54,7 +54,6 @@ managers; reads and writes ADIF. All its texts are French.")
 set(CPACK_PACKAGE_FILE_NAME vorlain-${VORLAIN_VERSION}-linux-${CMAKE_SYSTEM_PROCESSOR})
 set(CPACK_GENERATOR DEB TGZ)
 set(CPACK_STRIP_FILES ON)
-set(CPACK_PACKAGING_INSTALL_PREFIX /usr)
 set(CPACK_INSTALL_DEFAULT_DIRECTORY_PERMISSIONS
     OWNER_READ OWNER_WRITE OWNER_EXECUTE GROUP_READ GROUP_EXECUTE WORLD_READ WORLD_EXECUTE)
 
@@ -67,5 +66,5 @@ set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "qt6-wayland, fonts-liberation")
 
 set(CPACK_SOURCE_GENERATOR TGZ)
 set(CPACK_SOURCE_PACKAGE_FILE_NAME vorlain-${VORLAIN_VERSION}-source)
-set(CPACK_SOURCE_IGNORE_FILES /build/ /\\.git/ /\\.cache/ "/compile_commands\\.json$")
+set(CPACK_SOURCE_IGNORE_FILES /build/ /[.]git/ /[.]cache/ /compile_commands[.]json$)
 include(CPack)
